@@ -1,0 +1,19 @@
+// Small catalogues built in a test: the tables of the bundled catalogue's
+// schema, filled by the test's own rows, as Series.db in the temporary AppPath.
+#pragma once
+
+#include <string>
+
+#include "tests/support/TestState.h"
+
+// Creates Series.db in the folder: the schema, then the SQL text of rows.
+void Catalogue_Build(const std::string& folder, const std::string& rows);
+
+// The catalogue that the build placed beside the executables.
+std::string Catalogue_Bundled();
+
+class CatalogueTest : public StateTest {
+protected:
+    void TearDown() override;
+    void Build(const std::string& rows) { Catalogue_Build(appDir.Path(), rows); }
+};
