@@ -47,6 +47,10 @@ std::size_t Decode(std::string_view s, std::size_t i, char32_t& c) {
         if ((t >> 6) != 2) return 0;
         c = (c << 6) | (t & 0x3F);
     }
+    // An overlong form, a surrogate or a number beyond Unicode is malformed too:
+    // "\xC0\x80" must not sneak a zero byte into a fixed text.
+    constexpr char32_t kShortest[] = {0, 0, 0x80, 0x800, 0x10000};
+    if (c < kShortest[len] || (c >= 0xD800 && c <= 0xDFFF) || c > 0x10FFFF) return 0;
     return len;
 }
 

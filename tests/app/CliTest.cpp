@@ -1,0 +1,368 @@
+// torvane-cli run as a separate process, as scripts and newcomers run it.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "tests/support/TestState.h"
+
+namespace {
+
+struct CliRun {
+    int code = -1;
+    std::string out, err;
+};
+
+// Quotes a word for the shell.
+std::string Quote(const std::string& s) {
+    std::string q = "'";
+    for (const char c : s) q += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    return q + "'";
+}
+
+CliRun RunCli(const TempDir& dir, const std::string& args) {
+    const std::string out = dir.File("stdout.txt"), err = dir.File("stderr.txt");
+    const std::string command = "TORVANE_APP_PATH=" + Quote(dir.Path()) + " " + Quote(TORVANE_CLI) + " " + args +
+                                " >" + Quote(out) + " 2>" + Quote(err) + " </dev/null";
+    const int status = std::system(command.c_str());
+    CliRun r;
+    r.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    r.out = ReadFile(out);
+    r.err = ReadFile(err);
+    return r;
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) lines.push_back(line);
+    return lines;
+}
+
+// The line of the slot's header and the row lines below it, up to the next slot.
+std::vector<std::string> SlotLines(const std::string& text, int slot) {
+    std::vector<std::string> result;
+    bool inside = false;
+    for (const std::string& line : Lines(text)) {
+        if (line.rfind("Slot ", 0) == 0) inside = line.rfind("Slot " + std::to_string(slot) + " ", 0) == 0;
+        if (inside) result.push_back(line);
+    }
+    return result;
+}
+
+// The words of a line, split at blanks.
+std::vector<std::string> Words(const std::string& line) {
+    std::vector<std::string> words;
+    std::istringstream in(line);
+    for (std::string w; in >> w;) words.push_back(w);
+    return words;
+}
+
+// The row line of a slot whose name is given; "" when there is none.
+std::string RowLine(const std::string& text, int slot, const std::string& name) {
+    for (const std::string& line : SlotLines(text, slot))
+        if (line.find("  " + name + "  ") != std::string::npos) return line;
+    return "";
+}
+
+// --- a small JSON reader, enough to check the tool's output ---------------------
+
+struct Json {
+    enum Kind { Null, Bool, Number, String, Array, Object } kind = Null;
+    double number = 0;
+    std::string text;
+    std::vector<Json> items;
+    std::map<std::string, Json> fields;
+    const Json& operator[](const std::string& key) const { return fields.at(key); }
+    const Json& operator[](std::size_t i) const { return items.at(i); }
+};
+
+class JsonReader {
+public:
+    explicit JsonReader(std::string s) : s_(std::move(s)) {}
+    bool Parse(Json& out) {
+        if (!Value(out)) return false;
+        Blank();
+        return i_ == s_.size();
+    }
+
+private:
+    void Blank() {
+        while (i_ < s_.size() && (s_[i_] == ' ' || s_[i_] == '\n' || s_[i_] == '\r' || s_[i_] == '\t')) ++i_;
+    }
+    bool Literal(const char* word) {
+        const std::string w(word);
+        if (s_.compare(i_, w.size(), w) != 0) return false;
+        i_ += w.size();
+        return true;
+    }
+    bool Str(std::string& out) {
+        if (s_[i_] != '"') return false;
+        for (++i_; i_ < s_.size(); ++i_) {
+            const char c = s_[i_];
+            if (c == '"') return ++i_, true;
+            if (static_cast<unsigned char>(c) < 0x20) return false;
+            if (c == '\\') {
+                if (++i_ >= s_.size()) return false;
+                const char e = s_[i_];
+                if (e == 'u') {
+                    if (i_ + 4 >= s_.size()) return false;
+                    const unsigned v = std::stoul(s_.substr(i_ + 1, 4), nullptr, 16);
+                    out += v < 0x80 ? std::string(1, static_cast<char>(v)) : std::string("?");
+                    i_ += 4;
+                } else {
+                    const std::string from = "\"\\/bfnrt", to = "\"\\/\b\f\n\r\t";
+                    const auto k = from.find(e);
+                    if (k == std::string::npos) return false;
+                    out += to[k];
+                }
+            } else {
+                out += c;
+            }
+        }
+        return false;
+    }
+    bool Value(Json& v) {
+        Blank();
+        if (i_ >= s_.size()) return false;
+        const char c = s_[i_];
+        if (c == '{') {
+            v.kind = Json::Object;
+            ++i_;
+            Blank();
+            if (s_[i_] == '}') return ++i_, true;
+            for (;;) {
+                Blank();
+                std::string key;
+                if (!Str(key)) return false;
+                Blank();
+                if (s_[i_++] != ':') return false;
+                if (!Value(v.fields[key])) return false;
+                Blank();
+                if (s_[i_] == ',') { ++i_; continue; }
+                return s_[i_++] == '}';
+            }
+        }
+        if (c == '[') {
+            v.kind = Json::Array;
+            ++i_;
+            Blank();
+            if (s_[i_] == ']') return ++i_, true;
+            for (;;) {
+                v.items.emplace_back();
+                if (!Value(v.items.back())) return false;
+                Blank();
+                if (s_[i_] == ',') { ++i_; continue; }
+                return s_[i_++] == ']';
+            }
+        }
+        if (c == '"') return v.kind = Json::String, Str(v.text);
+        if (Literal("null")) return v.kind = Json::Null, true;
+        if (Literal("true")) return v.kind = Json::Bool, v.number = 1, true;
+        if (Literal("false")) return v.kind = Json::Bool, true;
+        const std::size_t start = i_;
+        while (i_ < s_.size() && std::string("+-0123456789.eE").find(s_[i_]) != std::string::npos) ++i_;
+        if (i_ == start) return false;
+        std::size_t used = 0;
+        v.kind = Json::Number;
+        v.number = std::stod(s_.substr(start, i_ - start), &used);
+        return used == i_ - start;
+    }
+
+    std::string s_;
+    std::size_t i_ = 0;
+};
+
+// Default units of a fresh installation, as UTF-8 on the terminal.
+const std::string kInertiaUnit = "kg\xC2\xB7m\xC2\xB2(GD2/4)";
+const std::string kTorqueUnit = "N\xC2\xB7m";
+
+class CliTest : public StateTest {};
+
+TEST_F(CliTest, TemplateOnePrintsTheHorizontalBallscrewChain) {
+    const CliRun r = RunCli(appDir, "template 1");
+    ASSERT_EQ(r.code, 0) << r.err;
+    EXPECT_EQ(r.err, "");
+    EXPECT_EQ(Words(SlotLines(r.out, 0).at(0)), (std::vector<std::string>{"Slot", "0", "type", "51", "Motor"}));
+    EXPECT_EQ(Words(SlotLines(r.out, 1).at(0)),
+              (std::vector<std::string>{"Slot", "1", "type", "1", "Reduct.", "gear"}));
+    EXPECT_EQ(Words(SlotLines(r.out, 2).at(0)),
+              (std::vector<std::string>{"Slot", "2", "type", "11", "H", "ballscrew"}));
+    EXPECT_EQ(Words(SlotLines(r.out, 3).at(0)), (std::vector<std::string>{"Slot", "3", "type", "31", "H", "linear"}));
+    EXPECT_TRUE(SlotLines(r.out, 4).empty());
+    // Rows in use only: the motor's ten, the reducer's three and its inertia row, ...
+    EXPECT_EQ(SlotLines(r.out, 0).size(), 1u + 10u);
+    EXPECT_EQ(SlotLines(r.out, 1).size(), 1u + 3u + 1u);
+    EXPECT_EQ(SlotLines(r.out, 2).size(), 1u + 6u + 1u);
+    EXPECT_EQ(SlotLines(r.out, 3).size(), 1u + 3u + 1u);
+}
+
+TEST_F(CliTest, TemplateOneRowsAreInTheDefaultUnits) {
+    const CliRun r = RunCli(appDir, "template 1");
+    ASSERT_EQ(r.code, 0) << r.err;
+    // row, name, unit, text, value in the base unit
+    EXPECT_EQ(Words(RowLine(r.out, 2, "Screw pitch")),
+              (std::vector<std::string>{"0", "Screw", "pitch", "mm", "10", "0.01"}));  // 0.01 m / 0.001
+    EXPECT_EQ(Words(RowLine(r.out, 2, "Screw length")),
+              (std::vector<std::string>{"2", "Screw", "length", "mm", "600", "0.6"}));
+    EXPECT_EQ(Words(RowLine(r.out, 2, "Trans. efficiency")),
+              (std::vector<std::string>{"3", "Trans.", "efficiency", "%", "0.9", "0.9"}));
+    EXPECT_EQ(Words(RowLine(r.out, 2, "Table mass")),
+              (std::vector<std::string>{"4", "Table", "mass", "kg", "1", "1"}));
+    EXPECT_EQ(Words(RowLine(r.out, 2, "Friction coef.")),
+              (std::vector<std::string>{"5", "Friction", "coef.", "-", "0.1", "0.1"}));
+    EXPECT_EQ(Words(RowLine(r.out, 1, "Reduction ratio")),
+              (std::vector<std::string>{"0", "Reduction", "ratio", "OUT/IN", "1", "1"}));
+    EXPECT_EQ(Words(RowLine(r.out, 1, "Input axis inertia")),
+              (std::vector<std::string>{"2", "Input", "axis", "inertia", kInertiaUnit, ".0E+0", "0"}));
+    EXPECT_EQ(Words(RowLine(r.out, 1, "Culculated inertia")),
+              (std::vector<std::string>{"13", "Culculated", "inertia", kInertiaUnit, ".0E+0", "0"}));
+    EXPECT_EQ(Words(RowLine(r.out, 3, "External load")),
+              (std::vector<std::string>{"1", "External", "load", "N", "0", "0"}));
+    EXPECT_EQ(Words(RowLine(r.out, 0, "Rotational speed")),
+              (std::vector<std::string>{"1", "Rotational", "speed", "r/min", "0", "0"}));
+    EXPECT_EQ(Words(RowLine(r.out, 0, "Rated torque")),
+              (std::vector<std::string>{"3", "Rated", "torque", kTorqueUnit, "0", "0"}));
+    EXPECT_EQ(Words(RowLine(r.out, 0, "Capacity")), (std::vector<std::string>{"0", "Capacity", "W", "0", "0"}));
+}
+
+TEST_F(CliTest, UnitPicksOfTheFileChangeWhatIsPrinted) {
+    // Length in cm, mass in g.
+    WriteFile(appDir.File("UnitInfo.dat"), "1\r\n1\r\n0\r\n1\r\n0\r\n0\r\n1\r\n0\r\n1\r\n1\r\n1\r\n");
+    const CliRun r = RunCli(appDir, "template 1");
+    ASSERT_EQ(r.code, 0) << r.err;
+    EXPECT_EQ(r.err, "");
+    EXPECT_EQ(Words(RowLine(r.out, 2, "Screw pitch")),
+              (std::vector<std::string>{"0", "Screw", "pitch", "cm", "1", "0.01"}));  // 0.01 m / 0.01
+    EXPECT_EQ(Words(RowLine(r.out, 2, "Table mass")),
+              (std::vector<std::string>{"4", "Table", "mass", "g", "1000", "1"}));  // 1 kg / 0.001
+}
+
+TEST_F(CliTest, TemplateSevenPrintsTheRackAndPinionChain) {
+    const CliRun r = RunCli(appDir, "template 7");
+    ASSERT_EQ(r.code, 0) << r.err;
+    EXPECT_EQ(Words(SlotLines(r.out, 0).at(0)), (std::vector<std::string>{"Slot", "0", "type", "51", "Motor"}));
+    EXPECT_EQ(Words(SlotLines(r.out, 1).at(0)),
+              (std::vector<std::string>{"Slot", "1", "type", "1", "Reduct.", "gear"}));
+    EXPECT_EQ(Words(SlotLines(r.out, 2).at(0)),
+              (std::vector<std::string>{"Slot", "2", "type", "16", "Pinion&Rack"}));
+    EXPECT_EQ(Words(SlotLines(r.out, 3).at(0)), (std::vector<std::string>{"Slot", "3", "type", "31", "H", "linear"}));
+    EXPECT_TRUE(SlotLines(r.out, 4).empty());
+    EXPECT_EQ(Words(RowLine(r.out, 2, "Pinion diameter")),
+              (std::vector<std::string>{"0", "Pinion", "diameter", "mm", "40", "0.04"}));
+    EXPECT_EQ(Words(RowLine(r.out, 2, "Pinion density")),
+              (std::vector<std::string>{"2", "Pinion", "density", "g/cm\xC2\xB3", "7.8", "7.8"}));
+}
+
+TEST_F(CliTest, JsonOfTemplateOneHoldsTheSameChain) {
+    const CliRun r = RunCli(appDir, "template 1 --json");
+    ASSERT_EQ(r.code, 0) << r.err;
+    Json doc;
+    ASSERT_TRUE(JsonReader(r.out).Parse(doc)) << r.out;
+    EXPECT_EQ(doc["template"].number, 1);
+    EXPECT_EQ(doc["name"].text, "Horizontal ballscrew");
+    EXPECT_EQ(doc["elementCount"].number, 4);
+    const Json& elements = doc["elements"];
+    ASSERT_EQ(elements.items.size(), 4u);
+    const double types[] = {51, 1, 11, 31};
+    const char* labels[] = {"Motor", "Reduct. gear", "H ballscrew", "H linear"};
+    const std::size_t rows[] = {10, 4, 7, 4};
+    for (std::size_t slot = 0; slot < 4; ++slot) {
+        EXPECT_EQ(elements[slot]["slot"].number, slot);
+        EXPECT_EQ(elements[slot]["type"].number, types[slot]);
+        EXPECT_EQ(elements[slot]["label"].text, labels[slot]);
+        EXPECT_EQ(elements[slot]["rows"].items.size(), rows[slot]);
+    }
+    const Json& pitch = elements[2]["rows"][0];
+    EXPECT_EQ(pitch["row"].number, 0);
+    EXPECT_EQ(pitch["name"].text, "Screw pitch");
+    EXPECT_EQ(pitch["unit"].text, "mm");
+    EXPECT_EQ(pitch["text"].text, "10");
+    EXPECT_EQ(pitch["value"].number, 0.01);
+    const Json& inertia = elements[0]["rows"][2];
+    EXPECT_EQ(inertia["name"].text, "Inertia");
+    EXPECT_EQ(inertia["unit"].text, kInertiaUnit);
+    EXPECT_EQ(inertia["text"].text, ".0E+0");
+    const Json& last = elements[3]["rows"][3];
+    EXPECT_EQ(last["row"].number, 13);
+    EXPECT_EQ(last["name"].text, "Culculated inertia");
+}
+
+TEST_F(CliTest, JsonOfTemplateSevenHoldsTheRackAndPinion) {
+    const CliRun r = RunCli(appDir, "template 7 --json");
+    ASSERT_EQ(r.code, 0) << r.err;
+    Json doc;
+    ASSERT_TRUE(JsonReader(r.out).Parse(doc)) << r.out;
+    EXPECT_EQ(doc["name"].text, "Rack and pinion");
+    ASSERT_EQ(doc["elements"].items.size(), 4u);
+    EXPECT_EQ(doc["elements"][2]["type"].number, 16);
+    EXPECT_EQ(doc["elements"][2]["label"].text, "Pinion&Rack");
+    EXPECT_EQ(doc["elements"][2]["rows"][2]["unit"].text, "g/cm\xC2\xB3");
+}
+
+TEST_F(CliTest, EveryTemplateNumberRuns) {
+    const std::size_t counts[] = {1, 4, 4, 3, 4, 3, 3, 4, 2, 2};
+    for (int n = 0; n <= 9; ++n) {
+        const CliRun r = RunCli(appDir, "template " + std::to_string(n) + " --json");
+        ASSERT_EQ(r.code, 0) << n << r.err;
+        Json doc;
+        ASSERT_TRUE(JsonReader(r.out).Parse(doc)) << n;
+        EXPECT_EQ(doc["elements"].items.size(), counts[n]) << n;
+        EXPECT_EQ(doc["elementCount"].number, counts[n]) << n;
+    }
+}
+
+TEST_F(CliTest, TemplateBeyondNineIsBadUsage) {
+    const CliRun r = RunCli(appDir, "template 10");
+    EXPECT_EQ(r.code, 2);
+    EXPECT_EQ(r.out.find("Slot"), std::string::npos);
+    EXPECT_NE(r.err, "");
+}
+
+TEST_F(CliTest, TemplateThatIsNoNumberIsBadUsage) {
+    const CliRun r = RunCli(appDir, "template x");
+    EXPECT_EQ(r.code, 2);
+    EXPECT_NE(r.err, "");
+    EXPECT_EQ(RunCli(appDir, "template -1").code, 2);
+    EXPECT_EQ(RunCli(appDir, "template").code, 2);
+}
+
+TEST_F(CliTest, NoArgumentsIsBadUsage) {
+    const CliRun r = RunCli(appDir, "");
+    EXPECT_EQ(r.code, 2);
+    EXPECT_EQ(r.out.find("Slot"), std::string::npos);
+}
+
+TEST_F(CliTest, UnknownCommandIsBadUsage) { EXPECT_EQ(RunCli(appDir, "frobnicate").code, 2); }
+
+TEST_F(CliTest, HelpExitsWithSuccess) {
+    const CliRun r = RunCli(appDir, "--help");
+    EXPECT_EQ(r.code, 0);
+    EXPECT_NE(r.out.find("template"), std::string::npos);
+}
+
+TEST_F(CliTest, GarbledUnitFileIsToldAndTheChainStillPrints) {
+    WriteFile(appDir.File("UnitInfo.dat"), "1\r\n0\r\nmm\r\n");
+    const CliRun r = RunCli(appDir, "template 1");
+    EXPECT_EQ(r.code, 0);
+    EXPECT_NE(r.err.find(appDir.File("UnitInfo.dat")), std::string::npos) << r.err;
+    EXPECT_EQ(Lines(r.err).size(), 1u) << r.err;
+    EXPECT_EQ(Words(RowLine(r.out, 2, "Screw pitch")),
+              (std::vector<std::string>{"0", "Screw", "pitch", "mm", "10", "0.01"}));
+    EXPECT_EQ(SlotLines(r.out, 3).at(0).find("H linear") != std::string::npos, true);
+}
+
+TEST_F(CliTest, MissingUnitFileIsNoErrorAndIsCreatedEmpty) {
+    const CliRun r = RunCli(appDir, "template 1");
+    EXPECT_EQ(r.code, 0);
+    EXPECT_EQ(r.err, "");
+    EXPECT_EQ(ReadFile(appDir.File("UnitInfo.dat")), "");
+}
+
+}  // namespace
