@@ -1,4 +1,5 @@
 #include <array>
+#include <string>
 #include <string_view>
 
 #include "core/Catalogue.h"
@@ -56,7 +57,7 @@ struct TrimTexts {
     void Double(double&) {}
     template <std::size_t N>
     void Text(FixedText<N>& text) {
-        text = Trimmed(text.Raw());
+        text = std::string(Trimmed(text.Raw()));  // a copy: the text is its own source
     }
 };
 
@@ -76,7 +77,7 @@ void Element_Move(int slot, const ElementRecord& old) {
 }
 
 void Info_Move(PrintInfoRecord old) {
-    old.System = old.System.Raw().substr(0, kOlderSystem);
+    old.System = std::string(old.System.Raw().substr(0, kOlderSystem));  // a copy, as above
     TrimTexts trim;
     Io_PrintInfo(trim, old, true);
     old.InfoMotorModel = MotorModelText.Str();

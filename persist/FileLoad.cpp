@@ -1,0 +1,76 @@
+#include <fstream>
+#include <iterator>
+
+#include "base/MsgBox.h"
+#include "base/RuntimeError.h"
+#include "calc/mdlCulcurate.h"
+#include "core/Document.h"
+#include "core/Tables.h"
+#include "core/Text.h"
+#include "core/UnitFile.h"
+#include "pattern/PatarnRows.h"
+#include "persist/FileRead.h"
+#include "persist/mdlFile.h"
+
+namespace {
+
+void Call(const std::function<void()>& f) {
+    if (f) f();
+}
+
+// The whole file; false when it cannot be opened or read.
+bool Read_Whole(const std::string& path, std::string& bytes) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) return false;
+    bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    return !in.bad();
+}
+
+void Read_Failed() { MsgBox("File read failed.", "Open", MsgIcon::Exclamation); }
+
+// A step after the reading that may fail with a run-time error (writing
+// UnitInfo.dat, a component the calculation cannot reduce): the error is
+// shown and the loading goes on with the next step.
+bool Run_Step(void (*step)()) {
+    try {
+        step();
+        return true;
+    } catch (const RuntimeError& e) {
+        MsgBox(e.what(), "Open", MsgIcon::Exclamation);
+        return false;
+    }
+}
+
+// The chosen motor's inertias and mass, from the rows the driver selection filled.
+void Selected_FromMotor() {
+    const auto& item = Element[0].Item;
+    SelectedMotorMass = item[7].Value;
+    SelectedJm = item[2].Value + item[6].Value;
+    SelectedJb = item[6].Value;
+}
+
+}  // namespace
+
+bool File_Load(const std::string& path, const FileLoadSeams& seams) {
+    Disp_Reset();
+    Call(seams.resetDisplay);
+
+    std::string bytes;
+    const FileReadResult result = Read_Whole(path, bytes) ? File_Read(bytes) : FileReadResult::Failed;
+    if (result == FileReadResult::Failed) Read_Failed();
+
+    if (MotorSelected == 1) Selected_FromMotor();
+    DocumentNamed = 1;
+    FileName = path;
+    PatternRowCount = Patarn_CountRows(Patarn);
+    const bool unitsSaved = Run_Step(Unit_Save);
+    const bool calculated = Run_Step(Culcurate_All);
+    Call(seams.refresh);
+    if (seams.setTitle) {
+        std::string dir, name;
+        Path_Split(path, dir, name);
+        seams.setTitle("Torvane-[" + name + "]");
+    }
+    Call(seams.showInfobox);
+    return result == FileReadResult::Read && unitsSaved && calculated;
+}
