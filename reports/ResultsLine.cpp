@@ -1,0 +1,47 @@
+#include "reports/ResultsLine.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+
+#include "reports/HistoryLog.h"
+
+namespace {
+
+std::ofstream report;
+
+constexpr std::array<int, 13> kColumnWidth = {0, 14, 26, 8, 10, 8, 10, 10, 15, 33, 18, 18, 10};
+
+}  // namespace
+
+void Results_Open(const std::string& fileName) {
+    report.open(fileName, std::ios::binary | std::ios::out | std::ios::trunc);
+    if (!report.is_open()) Results_LogError(kErrPathAccess);
+}
+
+void Results_Close() {
+    if (report.is_open()) report.close();
+}
+
+void Results_Print(int blanks, std::string_view text, bool endLine) {
+    if (!report.is_open()) {
+        Results_LogError(kErrBadFileNumber);
+        return;
+    }
+    report << std::string(static_cast<std::size_t>(blanks), ' ') << text;
+    if (endLine) report << "\r\n";
+    if (!report) {
+        report.clear();
+        Results_LogError(kErrDeviceIO);
+    }
+}
+
+int16_t Results_Pad(std::string_view text, int column) {
+    const int blanks = kColumnWidth.at(static_cast<std::size_t>(column)) - static_cast<int>(text.size());
+    return static_cast<int16_t>(std::max(blanks, 0));
+}
+
+void Results_LogError(int16_t number) {
+    const std::string digits = std::to_string(number);
+    History_Append(History_Path(), number < 0 ? digits : " " + digits);
+}

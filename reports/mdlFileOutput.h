@@ -1,0 +1,24 @@
+// The calculation results file: the selected motor, every component with its
+// parameters in SI units and its general-parameter block, the inertia and
+// torque formulas as text, and one row per pattern interval with the
+// regeneration worked out in numbers. It reads the shared tables and never
+// changes them, apart from what the load inertia routine stores. Writing is
+// never broken off and tells the user nothing; errors go to History.log.
+#pragma once
+
+#include <string>
+
+// Opens the file (created or emptied), writes all sections in order, closes it.
+void Results_Save(const std::string& fileName);
+
+// Every component: its number and label, its parameter rows, its block.
+void Results_Element();
+
+// The inertia formula as text and the load inertia J of the components.
+void Results_Inertia();
+
+// The torque and regeneration formulas, the same in every file.
+void Results_Torque();
+
+// One row per counted interval, with freshly computed torque parts.
+void Results_Interval();
