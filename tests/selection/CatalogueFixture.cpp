@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 
@@ -23,7 +24,13 @@ std::string Catalogue_Bundled() {
     return (std::filesystem::path(TORVANE_CLI).parent_path() / "Series.db").string();
 }
 
-void CatalogueTest::TearDown() {
+std::string Sql(double x) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.17g", x);
+    return text;
+}
+
+void SeriesDbTest::TearDown() {
     MotorRecordset.Close();
     DriverRecordset.Close();
     SeriesConnection.Close();

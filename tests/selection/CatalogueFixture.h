@@ -12,7 +12,10 @@ void Catalogue_Build(const std::string& folder, const std::string& rows);
 // The catalogue that the build placed beside the executables.
 std::string Catalogue_Bundled();
 
-class CatalogueTest : public StateTest {
+// A number as SQL text, to the last digit.
+std::string Sql(double x);
+
+class SeriesDbTest : public StateTest {
 protected:
     void TearDown() override;
     void Build(const std::string& rows) { Catalogue_Build(appDir.Path(), rows); }

@@ -8,7 +8,7 @@
 
 namespace {
 
-class DataBaseTest : public CatalogueTest {};
+class DataBaseTest : public SeriesDbTest {};
 
 std::string Series(int count) {
     std::string rows;
