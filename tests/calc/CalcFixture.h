@@ -1,0 +1,44 @@
+// A fresh program state with helpers to lay out a chain and a pattern.
+#pragma once
+
+#include <initializer_list>
+
+#include "core/Catalogue.h"
+#include "core/Document.h"
+#include "core/Tables.h"
+#include "pattern/PatarnRows.h"
+#include "tests/support/TestState.h"
+
+// The mass forms of the formula tables, written out by hand: a disk of
+// diameter d, thickness t and density r in g/cm3, and a steel rod of diameter
+// d and length l, both in kg.
+inline double Disk(double d, double t, double r) { return r * 3.14 * (d * d) * t / 4 * 1000; }
+inline double Steel(double d, double l) { return (d * d) * 24492 * l / 4; }
+
+class CalcTest : public StateTest {
+protected:
+    // The chain of the types from slot 1 on, each with its defaults, behind the motor.
+    static void Place(std::initializer_list<int16_t> types) {
+        int16_t slot = 1;
+        for (const int16_t type : types) {
+            Element[slot].ElementType = type;
+            Item_Defaults(type, Element[slot].Item);
+            ++slot;
+        }
+        ElementCount = slot;
+    }
+
+    // A template chain as the main window builds it.
+    static void Build(int16_t number) {
+        Template_Fill(number, false);
+        ElementCount = MecaTemplateCount[number];
+    }
+
+    static double& P(int16_t slot, int row) { return Element[slot].Item[row].Value; }
+
+    // A complete row: DeltaTime in s, Speed in r/min.
+    static void Row(PatarnTable& table, int16_t row, double dt, double speed) {
+        Patarn_SetField(table, row, 0, 1, dt, FieldDeltaTime);
+        Patarn_SetField(table, row, 5, 0, speed, FieldSpeed);
+    }
+};
