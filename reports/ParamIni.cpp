@@ -37,14 +37,18 @@ int Collect(void* user, const char* section, const char* name, const char* value
     return 1;
 }
 
+constexpr int kLineBytes = 65536;
+
 // One line is one entry, as the system's own reader has it: no continuation
-// lines, no comments behind a value, and lines of any length.
+// lines and no comments behind a value. The line buffer is on the heap and
+// of one fixed size, since the library's own is 200 bytes.
 void Configure() {
     ini_allow_multiline = false;
     ini_allow_inline_comments = false;
     ini_use_stack = false;
     ini_allow_realloc = false;
-    ini_max_line = 65536;
+    ini_initial_alloc = kLineBytes;
+    ini_max_line = kLineBytes;
 }
 
 }  // namespace
