@@ -1,0 +1,79 @@
+// The recalculation runs on every edit and the torque loop for every motor of
+// a series: neither may touch the heap. This binary replaces the global
+// operator new with one that counts.
+#include <cstdlib>
+#include <new>
+
+#include "calc/mdlCulcurate.h"
+#include "tests/calc/CalcFixture.h"
+
+namespace {
+long allocations = 0;
+}
+
+void* operator new(std::size_t size) {
+    ++allocations;
+    if (void* p = std::malloc(size == 0 ? 1 : size)) return p;
+    throw std::bad_alloc();
+}
+void operator delete(void* p) noexcept { std::free(p); }
+void operator delete(void* p, std::size_t) noexcept { std::free(p); }
+
+namespace {
+
+class CalcNoAlloc : public CalcTest {
+protected:
+    // A sized horizontal ballscrew with a chosen motor and a trapezoid with a rest row.
+    void SetUp() override {
+        CalcTest::SetUp();
+        Build(1);
+        MotorSelected = 1;
+        SelectedJm = 0.00003;
+        SelectedJb = 0.00001;
+        Element[0].Item[5].ItemText = "30";
+        ResultValues[Rate] = {0.64, 0.42, 3000, 0.00002, 10, 5, 0.64};
+        Row(Patarn, 1, 0.1, 3000);
+        Row(Patarn, 2, 0.5, 3000);
+        Row(Patarn, 3, 0.1, 0);
+        Row(Patarn, 4, 0.3, 0);
+        Culcurate_All();  // once, so that every lazily built table exists
+    }
+};
+
+// The proof below holds only if this binary's operator new is the counting one.
+TEST_F(CalcNoAlloc, CountingOperatorNewIsInForce) {
+    const long before = allocations;
+    delete new int(1);
+    EXPECT_EQ(allocations, before + 1);
+}
+
+TEST_F(CalcNoAlloc, RecalculationAllocatesNothing) {
+    const long before = allocations;
+    Culcurate_All();
+    EXPECT_EQ(allocations, before);
+    EXPECT_NE(ResultValues[Hantei][MaxTorque], 0);
+}
+
+TEST_F(CalcNoAlloc, RecalculationOfACartAllocatesNothing) {
+    Build(9);
+    const long before = allocations;
+    Culcurate_All();
+    EXPECT_EQ(allocations, before);
+}
+
+TEST_F(CalcNoAlloc, PatternTorquesAllocateNothing) {
+    PatarnTrial = Patarn;
+    double Jm = 0.0002, mass = 3;
+    const long before = allocations;
+    Pattern_Torques(PatarnTrial, 2, Jm, mass);
+    EXPECT_EQ(allocations, before);
+    EXPECT_NE(PatarnTrial[1].Torque, Patarn[1].Torque);
+}
+
+TEST_F(CalcNoAlloc, JudgementAllocatesNothing) {
+    const long before = allocations;
+    Judge_Results(ResultValues);
+    EXPECT_EQ(allocations, before);
+}
+
+}  // namespace
