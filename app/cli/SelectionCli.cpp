@@ -1,0 +1,150 @@
+#include "app/cli/SelectionCli.h"
+
+#include <algorithm>
+#include <iostream>
+#include <vector>
+
+#include "app/cli/GridPrint.h"
+#include "app/cli/Json.h"
+#include "core/Activation.h"
+#include "persist/mdlFile.h"
+#include "selection/DriverPage.h"
+#include "selection/MotorPage.h"
+
+namespace {
+
+int NotFound(const std::string& what, const std::string& name) {
+    std::cerr << "torvane-cli: no " << what << " \"" << name << "\" in the catalogue\n";
+    return 1;
+}
+
+int IndexOf(const std::vector<std::string>& list, const std::string& name) {
+    const auto at = std::ranges::find(list, name);
+    return at == list.end() ? -1 : static_cast<int>(at - list.begin());
+}
+
+// Opens the document and the motor page as the menu does.
+bool Open(const std::string& file, MotorPage& page) {
+    Main_Prepare("");
+    if (!File_Load(file)) return false;
+    List1_Load(page);
+    return true;
+}
+
+// Walks the groups of every series until the motor's row is the current one.
+bool Motor_Find(MotorPage& page, const std::string& model) {
+    for (int s = 0; s < static_cast<int>(page.lstS.size()); ++s) {
+        lstS_Click(page, s);
+        for (int g = 0; g < static_cast<int>(page.lstM.size()); ++g) {
+            if (g != 0) lstM_Click(page, g);
+            for (int row = kFixedRows; row < page.vsfData.Rows(); ++row)
+                if (page.vsfData.Cell(row, 1).text == model) return vsfData_RowChange(page, row), true;
+        }
+    }
+    return false;
+}
+
+// The driver page of the motor, activated.
+bool Drivers_Open(MotorPage& page, DriverPage& drivers, const std::string& model) {
+    if (!Motor_Find(page, model)) return false;
+    cmdNext_Click(page, drivers);
+    List2_Activate(drivers);
+    return true;
+}
+
+void Print(const std::string& title, const Grid& grid, bool json) {
+    if (json) {
+        Grid_PrintJson(grid, std::cout);
+        std::cout << '\n';
+    } else {
+        std::cout << title << '\n';
+        Grid_PrintText(grid, std::cout);
+    }
+}
+
+int Run_Series(bool json) {
+    Main_Prepare("");
+    MotorPage page;
+    List1_Load(page);
+    std::cout << (json ? "[" : "");
+    for (int s = 0; s < static_cast<int>(page.lstS.size()); ++s) {
+        lstS_Click(page, s);
+        if (json) {
+            std::cout << (s ? "," : "") << "{\"series\":" << Json_String(page.lstS[s]) << ",\"models\":[";
+            for (std::size_t g = 0; g < page.lstM.size(); ++g) std::cout << (g ? "," : "") << Json_String(page.lstM[g]);
+            std::cout << "]}";
+        } else {
+            std::cout << page.lstS[s] << '\n';
+            for (const std::string& group : page.lstM) std::cout << "  " << group << '\n';
+        }
+    }
+    std::cout << (json ? "]\n" : "");
+    return 0;
+}
+
+int Run_Judge(const std::string& file, const std::string& series, const std::string& model, bool json) {
+    MotorPage page;
+    if (!Open(file, page)) return 1;
+    const int s = IndexOf(page.lstS, series);
+    if (s < 0) return NotFound("series", series);
+    lstS_Click(page, s);
+    const int g = IndexOf(page.lstM, model);
+    if (g < 0) return NotFound("model", model);
+    lstM_Click(page, g);
+    cmdJudge_Click(page);
+    Print(series + " / " + model, page.vsfData, json);
+    return 0;
+}
+
+int Run_Drivers(const std::string& file, const std::string& motor, bool json) {
+    MotorPage page;
+    DriverPage drivers;
+    if (!Open(file, page)) return 1;
+    if (!Drivers_Open(page, drivers, motor)) return NotFound("motor", motor);
+    Print("Drivers of " + motor, drivers.vsfDrvList, json);
+    return 0;
+}
+
+int Run_Select(const std::string& file, const std::string& motor, const std::string& driver,
+               const std::string& modelText, const std::string& out) {
+    MotorPage page;
+    DriverPage drivers;
+    if (!Open(file, page)) return 1;
+    if (!Drivers_Open(page, drivers, motor)) return NotFound("motor", motor);
+    drivers.Row = -1;
+    for (int row = kFixedRows; row < drivers.vsfDrvList.Rows(); ++row)
+        if (drivers.vsfDrvList.Cell(row, 1).text == driver) drivers.Row = row;
+    if (drivers.Row < 0) return NotFound("driver of the motor", driver);
+    if (!modelText.empty()) drivers.txtMotor = modelText;
+    if (!cmdDecide_Click(page, drivers)) return 1;
+    List1_Unload();
+    return File_Save(out) ? 0 : 1;
+}
+
+}  // namespace
+
+SelectionCli::SelectionCli(CLI::App& app)
+    : series_(app.add_subcommand("series", "List the motor series of the catalogue and their model groups")),
+      judge_(app.add_subcommand("judge", "Judge every motor of a model group against an application file")),
+      drivers_(app.add_subcommand("drivers", "Judge the drivers that fit a motor against an application file")),
+      select_(app.add_subcommand("select", "Take a motor and a driver on and save the application file")) {
+    series_->add_flag("--json", json_, "print JSON instead of text");
+    for (CLI::App* command : {judge_, drivers_, select_})
+        command->add_option("FILE", file_, "application file (.AP2)")->required()->check(CLI::ExistingFile);
+    judge_->add_option("--series", seriesName_, "series name as listed")->required();
+    judge_->add_option("--model", modelName_, "model group name as listed")->required();
+    for (CLI::App* command : {drivers_, select_})
+        command->add_option("--motor", motor_, "motor model number")->required();
+    for (CLI::App* command : {judge_, drivers_}) command->add_flag("--json", json_, "print JSON instead of text");
+    select_->add_option("--driver", driver_, "driver model number")->required();
+    select_->add_option("--model-text", modelText_, "model number to store, with its options");
+    select_->add_option("--out", out_, "application file to write")->required();
+}
+
+int SelectionCli::Run() const {
+    if (series_->parsed()) return Run_Series(json_);
+    if (judge_->parsed()) return Run_Judge(file_, seriesName_, modelName_, json_);
+    if (drivers_->parsed()) return Run_Drivers(file_, motor_, json_);
+    if (select_->parsed()) return Run_Select(file_, motor_, driver_, modelText_, out_);
+    return -1;
+}

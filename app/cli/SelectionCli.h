@@ -1,0 +1,23 @@
+// The subcommands of the selection wizard: series lists the catalogue,
+// judge prints the motor grid judged against a file, drivers the driver grid
+// of a motor, select takes a motor and a driver on and saves the file.
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include <string>
+
+class SelectionCli {
+public:
+    explicit SelectionCli(CLI::App& app);
+    // The exit code of the subcommand that was parsed; -1 when none of these was.
+    int Run() const;
+
+private:
+    CLI::App* series_;
+    CLI::App* judge_;
+    CLI::App* drivers_;
+    CLI::App* select_;
+    std::string file_, seriesName_, modelName_, motor_, driver_, modelText_, out_;
+    bool json_ = false;
+};

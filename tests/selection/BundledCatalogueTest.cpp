@@ -1,0 +1,81 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <set>
+
+#include "core/Tables.h"
+#include "selection/DriverJudge.h"
+#include "selection/DriverPage.h"
+#include "selection/MotorPage.h"
+#include "selection/Queries.h"
+#include "selection/mdlDataBase.h"
+#include "tests/selection/CatalogueFixture.h"
+#include "tests/selection/SizedDocument.h"
+
+namespace {
+
+class BundledCatalogueTest : public SeriesDbTest {
+protected:
+    void SetUp() override {
+        SeriesDbTest::SetUp();
+        std::filesystem::copy_file(Catalogue_Bundled(), appDir.File("Series.db"));
+        Document_Sized();
+        List1_Load(page);
+    }
+    MotorPage page;
+};
+
+TEST_F(BundledCatalogueTest, EveryQueryRuns) {
+    Recordset rs;
+    ASSERT_EQ(Recordset_Open(Query_Series(), rs), 0);
+    EXPECT_GE(rs.RecordCount(), 4);
+    EXPECT_LE(rs.RecordCount(), 11);
+    int motors = 0;
+    for (int s = 0; s < static_cast<int>(page.lstS.size()); ++s) {
+        ASSERT_EQ(Recordset_Open(Query_Models(SeriesFlgList[s]), rs), 0);
+        EXPECT_GE(rs.RecordCount(), 2);
+        EXPECT_LE(rs.RecordCount(), 4);
+        std::vector<std::string> groups;
+        List_Fill(rs, groups, 1);
+        for (int g = 0; g < static_cast<int>(groups.size()); ++g) {
+            ASSERT_EQ(Recordset_Open(Query_Motors(SeriesIDList[s], ModelFlgList[g]), rs), 0);
+            motors += rs.RecordCount();
+        }
+    }
+    EXPECT_GE(motors, 80);
+    ASSERT_EQ(Recordset_Open(Query_Drivers("TVM-A040S3"), rs), 0);
+    EXPECT_GE(rs.RecordCount(), 1);
+    ASSERT_EQ(Recordset_Open(Query_DriverTypes(), rs), 0);
+    EXPECT_GE(rs.RecordCount(), 3);
+    Comment_Judge_Set();
+    EXPECT_TRUE(std::ranges::any_of(DriverTypes, [](const DriverTypeRec& t) { return t.NGJudgeFlg == 1; }));
+    EXPECT_TRUE(msg.Seen().empty());
+}
+
+TEST_F(BundledCatalogueTest, EveryMotorAndItsDriversAreJudged) {
+    std::set<std::string> verdicts;
+    int withoutDrivers = 0;
+    for (int s = 0; s < static_cast<int>(page.lstS.size()); ++s) {
+        lstS_Click(page, s);
+        for (int g = 0; g < static_cast<int>(page.lstM.size()); ++g) {
+            lstM_Click(page, g);
+            ASSERT_GT(MotorRowCount, 0);
+            ASSERT_NO_THROW(cmdJudge_Click(page));
+            for (int row = 2; row < MotorRowCount + 2; ++row) {
+                verdicts.insert(page.vsfData.Cell(row, 0).text);
+                vsfData_RowChange(page, row);
+                DriverPage drivers;
+                ASSERT_TRUE(cmdNext_Click(page, drivers));
+                ASSERT_NO_THROW(List2_Activate(drivers));
+                withoutDrivers += drivers.DriverRowCount == 0;
+            }
+        }
+    }
+    EXPECT_EQ(withoutDrivers, 1);
+    EXPECT_TRUE(verdicts.contains("OK"));
+    EXPECT_TRUE(verdicts.contains("NG"));
+    EXPECT_TRUE(verdicts.contains("-"));
+    EXPECT_TRUE(msg.Seen().empty());
+}
+
+}  // namespace
