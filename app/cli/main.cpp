@@ -7,6 +7,7 @@
 
 #include "app/cli/ChainPrint.h"
 #include "app/cli/Json.h"
+#include "app/cli/ResultsCommand.h"
 #include "app/cli/SelectionCli.h"
 #include "base/MsgBox.h"
 #include "base/RuntimeError.h"
@@ -51,6 +52,7 @@ int main(int argc, char** argv) {
         ->check(CLI::Range(0, kTemplates - 1));
     templ->add_flag("--json", json, "print JSON instead of text");
     SelectionCli selection(app);
+    ResultsCli results(app);
 
     try {
         app.parse(argc, argv);
@@ -61,6 +63,7 @@ int main(int argc, char** argv) {
     try {
         if (templ->parsed()) return RunTemplate(number, json);
         if (const int code = selection.Run(); code >= 0) return code;
+        if (const int code = results.Run(); code >= 0) return code;
     } catch (const RuntimeError& e) {
         std::cerr << "torvane-cli: " << e.what() << '\n';
         return 1;

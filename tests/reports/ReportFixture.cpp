@@ -41,7 +41,7 @@ void ReportTest::ChooseMotor() {
     SelectedJm = 0.000123;
     SelectedJb = 0.00002;
     SelectedMotorMass = 1.5;
-    Element[0].Item[2].Value = SelectedJm;
+    Element[0].Item[2].Value = SelectedJm - SelectedJb;
     Element[0].Item[6].Value = SelectedJb;
     Element[0].Item[7].Value = SelectedMotorMass;
 }

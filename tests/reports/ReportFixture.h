@@ -21,7 +21,8 @@ protected:
     void Chain(std::initializer_list<int16_t> types);
     // Complete rows 1, 2, ... of the pattern, counted in PatternRowCount.
     void Rows(std::initializer_list<RowSpec> rows);
-    // A motor as the wizard's "Finish" leaves it.
+    // A motor as the wizard's "Finish" leaves it: SelectedJm is the rotor
+    // inertia (row 2) plus the brake inertia (row 6).
     void ChooseMotor();
     // The delivered Param.ini, or the given text, as AppPath's Param.ini.
     void InstallParamIni();

@@ -1,0 +1,22 @@
+#include "app/cli/ResultsCommand.h"
+
+#include "core/Activation.h"
+#include "persist/mdlFile.h"
+#include "reports/ResultsCommand.h"
+
+ResultsCli::ResultsCli(CLI::App& app) {
+    results_ = app.add_subcommand("results", "Open an application file and write its calculation results file");
+    results_->add_option("FILE", file_, "the application file (.AP2)")->required();
+    results_->add_option("OUT", out_, "the results file to write, taken as given")->required();
+}
+
+int ResultsCli::Run() const {
+    if (!results_->parsed()) return -1;
+    Main_Prepare("");
+    if (!File_Load(file_)) return 1;
+    const bool written = Results_Command([this](std::string& fileName) {
+        fileName = out_;
+        return true;
+    });
+    return written ? 0 : 1;
+}
