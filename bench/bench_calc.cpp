@@ -1,9 +1,9 @@
 // Speed of the recalculation that runs on every edit, and of the torque loop
 // that the motor page runs for every motor of a series.
 //
-//   cmake -S . -B build-bench-calc -G Ninja -DCMAKE_BUILD_TYPE=Release -DTORVANE_GUI=OFF \
-//         -DTORVANE_TESTS=OFF -DTORVANE_BENCH=ON && cmake --build build-bench-calc --target bench_calc \
-//         && build-bench-calc/bench/bench_calc
+//   cmake -S . -B build-bench-calc -G Ninja -DCMAKE_BUILD_TYPE=Release -DTORVANE_GUI=OFF -DTORVANE_TESTS=OFF
+//         -DTORVANE_BENCH=ON
+//   cmake --build build-bench-calc --target bench_calc && build-bench-calc/bench/bench_calc
 #include <benchmark/benchmark.h>
 
 #include "calc/mdlCulcurate.h"

@@ -15,6 +15,13 @@ constexpr double kShortestInterval = 0.000001;
 // Acceleration in rad/s2 at the motor shaft, speeds in r/min.
 double Acceleration(double v1, double v2, double dt) { return (v2 * kPi / 30 - v1 * kPi / 30) / dt; }
 
+// A term divided by koritu. Most terms of a chain are 0 (no load, no
+// friction); they skip the division, which is the inner loop's cost, unless
+// koritu itself is 0 or not finite and the division must fail.
+double Through(double term, double koritu) {
+    return term == 0 && koritu != 0 && std::isfinite(koritu) ? term : term / koritu;
+}
+
 double Sgn(double x) { return x > 0 ? 1 : (x < 0 ? -1 : 0); }
 
 // Friction acts against the motion, told by the sign of v1 + v2. At rest, or
@@ -51,10 +58,10 @@ int16_t Interval_Torque(int16_t n, double dt, double v1, double v2, double Jm, d
         const double ratioIn = ratioOut;
         ratioOut = ratioOut * p.ratio;
         koritu = koritu * p.eff;
-        tin += Sq(ratioIn) * p.inert0 * a / koritu;
-        tout += Sq(ratioOut) * p.inert1 * a / koritu;
-        tex += ratioOut * p.exforce / koritu;
-        tfric += std::fabs(ratioOut * p.fric * p.inert1 * kGravity) / koritu;
+        tin += Through(Sq(ratioIn) * p.inert0 * a, koritu);
+        tout += Through(Sq(ratioOut) * p.inert1 * a, koritu);
+        tex += Through(ratioOut * p.exforce, koritu);
+        tfric += Through(std::fabs(ratioOut * p.fric * p.inert1 * kGravity), koritu);
     }
     TorqueAcc = a * Jm + tin + tout;
     TorqueEx = tex;
