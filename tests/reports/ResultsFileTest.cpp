@@ -95,15 +95,17 @@ TEST_F(ResultsFileTest, AValueLongerThanItsColumnPushesTheBarAndIsNotCut) {
     EXPECT_TRUE(again[Find(again, kTableHead) + 2].starts_with("           1|         0|1234.567891|0.12345678901234|"));
 }
 
-TEST_F(ResultsFileTest, ACartHasNoInertiaSection) {
-    Chain({41});
-    Culcurate_All();
-    const auto lines = Saved();
-    const std::size_t torque = Find(lines, "    <Torque Calculation> N\xB7m");
-    ASSERT_LT(torque, lines.size());
-    EXPECT_EQ(lines[torque - 1], "");
-    EXPECT_EQ(lines[torque - 2], "        <Calculation Values for General Parameters>");
-    EXPECT_EQ(Find(lines, "    <Inertia Calculation> kg\xB7m\xB2"), lines.size());
+TEST_F(ResultsFileTest, ACartOrPinionCartHasNoInertiaSection) {
+    for (const int16_t type : {41, 42}) {
+        Chain({type});
+        Culcurate_All();
+        const auto lines = Saved();
+        const std::size_t torque = Find(lines, "    <Torque Calculation> N\xB7m");
+        ASSERT_LT(torque, lines.size());
+        EXPECT_EQ(lines[torque - 1], "");
+        EXPECT_EQ(lines[torque - 2], "        <Calculation Values for General Parameters>");
+        EXPECT_EQ(Find(lines, "    <Inertia Calculation> kg\xB7m\xB2"), lines.size());
+    }
 }
 
 TEST_F(ResultsFileTest, AnOrdinaryChainHasTheInertiaSectionWithJOfTheComponents) {
