@@ -24,9 +24,9 @@ void ReportTest::Chain(std::initializer_list<int16_t> types) {
     ElementCount = slot;
 }
 
-void ReportTest::Rows(std::initializer_list<RowSpec> rows) {
+void ReportTest::Rows(std::initializer_list<RowEntry> rows) {
     int16_t i = 1;
-    for (const RowSpec& row : rows) {
+    for (const RowEntry& row : rows) {
         Patarn[i].DeltaTime = row.dt;
         Patarn[i].Speed = row.speed;
         Patarn[i].RowState = 3;

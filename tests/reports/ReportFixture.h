@@ -8,7 +8,7 @@
 
 #include "tests/support/TestState.h"
 
-struct RowSpec {
+struct RowEntry {
     double dt;
     double speed;
 };
@@ -20,7 +20,7 @@ protected:
     // The motor and components of these types with catalogue defaults.
     void Chain(std::initializer_list<int16_t> types);
     // Complete rows 1, 2, ... of the pattern, counted in PatternRowCount.
-    void Rows(std::initializer_list<RowSpec> rows);
+    void Rows(std::initializer_list<RowEntry> rows);
     // A motor as the wizard's "Finish" leaves it: SelectedJm is the rotor
     // inertia (row 2) plus the brake inertia (row 6).
     void ChooseMotor();
