@@ -109,6 +109,15 @@ TEST_F(CalcTorque, ZeroEfficiencyMarksTheFirstRowAndStops) {
     EXPECT_EQ(Patarn[3].Regeneration, 8);
 }
 
+TEST_F(CalcTorque, ZeroEfficiencyFailsEvenWithNothingToCarry) {
+    ElementCount = 2;
+    Param[1] = ParamRecord{0, 0, 0, 0, 0, 1, 0, 0, 0};
+    Row(Patarn, 1, 1, 0);
+    double Jm = 0, mass = 0;
+    Pattern_Torques(Patarn, 1, Jm, mass);
+    EXPECT_EQ(Patarn[1].Torque, -9999);
+}
+
 TEST_F(CalcTorque, TooShortIntervalMarksOnlyItsRow) {
     Table(5, 0);
     Row(Patarn, 1, 1, 1000);
