@@ -9,6 +9,7 @@
 #include "app/cli/Json.h"
 #include "app/cli/ResultsCommand.h"
 #include "app/cli/SelectionCli.h"
+#include "app/cli/SizeCommand.h"
 #include "base/MsgBox.h"
 #include "base/RuntimeError.h"
 #include "core/Activation.h"
@@ -53,6 +54,7 @@ int main(int argc, char** argv) {
     templ->add_flag("--json", json, "print JSON instead of text");
     SelectionCli selection(app);
     ResultsCli results(app);
+    SizeCli size(app);
 
     try {
         app.parse(argc, argv);
@@ -64,6 +66,7 @@ int main(int argc, char** argv) {
         if (templ->parsed()) return RunTemplate(number, json);
         if (const int code = selection.Run(); code >= 0) return code;
         if (const int code = results.Run(); code >= 0) return code;
+        if (const int code = size.Run(); code >= 0) return code;
     } catch (const RuntimeError& e) {
         std::cerr << "torvane-cli: " << e.what() << '\n';
         return 1;
