@@ -249,3 +249,17 @@ TEST_F(FileLoadTest, TruncatedFilesEachTellReadFailedOnce) {
         EXPECT_GE(ElementCount, 1);
     }
 }
+
+TEST_F(FileLoadTest, UnitFileThatCannotBeWrittenIsToldAndTheLoadFinishes) {
+    Document_Golden();
+    const std::string path = Saved();
+    State_Reset();
+    AppPath = appDir.File("no such folder");
+    EXPECT_FALSE(File_Load(path, window.Seams()));
+    ASSERT_EQ(msg.Seen().size(), 1u);
+    EXPECT_EQ(msg.Seen()[0].title, "Open");
+    EXPECT_NE(msg.Seen()[0].text.find("UnitInfo.dat"), std::string::npos);
+    EXPECT_EQ(ElementCount, 4);
+    EXPECT_NE(ResultValues[Cul][MaxTorque], 0);  // the recalculation still ran
+    EXPECT_EQ(window.calls.back(), "showInfobox");
+}
