@@ -92,18 +92,17 @@ void Io_CurrentFile(IO& io) {
     for (int slot = 0; slot < kStoredElements; ++slot)
         io.Record(
             Element[slot], [](IO& x, ElementRecord& e) { Io_Element(x, e, kCurrentItems); },
-            [slot](const ElementRecord& e) { return Element_Valid(slot, e); }, "component");
-    for (int row = 1; row <= kPatarnRows; ++row) io.Record(Patarn[row], Io_Row<IO>, Row_Valid, "pattern row");
-    io.Record(ElementCount, Io_Int16<IO>, Count_Valid, "element count");
-    io.Record(MotorSelected, Io_Int16<IO>, MotorSelected_Valid, "motor flag");
+            [slot](const ElementRecord& e) { return Element_Valid(slot, e); });
+    for (int row = 1; row <= kPatarnRows; ++row) io.Record(Patarn[row], Io_Row<IO>, Row_Valid);
+    io.Record(ElementCount, Io_Int16<IO>, Count_Valid);
+    io.Record(MotorSelected, Io_Int16<IO>, MotorSelected_Valid);
     io.Text(MotorModelText);
     io.Text(MotorComment);
     io.Text(DriverModelText);
     io.Text(DriverComment);
     io.Record(
         PRINTINFO, [](IO& x, PrintInfoRecord& p) { Io_PrintInfo(x, p, false); },
-        [](const PrintInfoRecord&) { return true; }, "information block");
+        [](const PrintInfoRecord&) { return true; });
     for (int kind = 0; kind < kUnitCategories; ++kind)
-        io.Record(
-            UnitTable[kind].Sel, Io_Int16<IO>, [kind](int16_t sel) { return Sel_Valid(kind, sel); }, "unit pick");
+        io.Record(UnitTable[kind].Sel, Io_Int16<IO>, [kind](int16_t sel) { return Sel_Valid(kind, sel); });
 }

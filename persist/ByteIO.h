@@ -29,10 +29,10 @@ public:
 
     // Reads a whole record into a copy and stores it only when valid says so.
     template <class T, class Visit, class Valid>
-    void Record(T& target, Visit visit, Valid valid, const char* what) {
+    void Record(T& target, Visit visit, Valid valid) {
         T copy = target;
         visit(*this, copy);
-        if (!valid(copy)) throw RuntimeError(std::string("Invalid ") + what);
+        if (!valid(copy)) throw RuntimeError("Invalid record");
         target = copy;
     }
 
@@ -54,7 +54,7 @@ public:
     }
 
     template <class T, class Visit, class Valid>
-    void Record(T& source, Visit visit, Valid, const char*) {
+    void Record(T& source, Visit visit, Valid) {
         visit(*this, source);
     }
 

@@ -26,8 +26,6 @@ bool Read_Whole(const std::string& path, std::string& bytes) {
     return !in.bad();
 }
 
-void Read_Failed() { MsgBox("File read failed.", "Open", MsgIcon::Exclamation); }
-
 // A step after the reading that may fail with a run-time error (writing
 // UnitInfo.dat, a component the calculation cannot reduce): the error is
 // shown and the loading goes on with the next step.
@@ -57,7 +55,7 @@ bool File_Load(const std::string& path, const FileLoadSeams& seams) {
 
     std::string bytes;
     const FileReadResult result = Read_Whole(path, bytes) ? File_Read(bytes) : FileReadResult::Failed;
-    if (result == FileReadResult::Failed) Read_Failed();
+    if (result == FileReadResult::Failed) MsgBox("File read failed.", "Open", MsgIcon::Exclamation);
 
     if (MotorSelected == 1) Selected_FromMotor();
     DocumentNamed = 1;

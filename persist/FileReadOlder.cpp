@@ -31,18 +31,17 @@ void Io_OlderFile(IO& io, OlderFile& f) {
     for (int slot = 0; slot < kStoredElements; ++slot)
         io.Record(
             f.elements[slot], [](IO& x, ElementRecord& e) { Io_Element(x, e, kOlderItems); },
-            [slot](const ElementRecord& e) { return Element_Valid(slot, e); }, "component");
-    io.Record(f.elementCount, Io_Int16<IO>, Count_Valid, "element count");
-    for (PatarnRow& row : f.rows) io.Record(row, Io_Row<IO>, Row_Valid, "pattern row");
-    io.Record(f.motorSelected, Io_Int16<IO>, MotorSelected_Valid, "motor flag");
+            [slot](const ElementRecord& e) { return Element_Valid(slot, e); });
+    io.Record(f.elementCount, Io_Int16<IO>, Count_Valid);
+    for (PatarnRow& row : f.rows) io.Record(row, Io_Row<IO>, Row_Valid);
+    io.Record(f.motorSelected, Io_Int16<IO>, MotorSelected_Valid);
     io.Text(f.motorModel);
     io.Text(f.motorComment);
     io.Text(f.driverModel);
     io.Text(f.driverComment);
     Io_PrintInfo(io, f.info, true);
     for (int kind = 0; kind < kUnitCategories; ++kind)
-        io.Record(
-            f.sel[kind], Io_Int16<IO>, [kind](int16_t sel) { return Sel_Valid(kind, sel); }, "unit pick");
+        io.Record(f.sel[kind], Io_Int16<IO>, [kind](int16_t sel) { return Sel_Valid(kind, sel); });
 }
 
 std::string_view Trimmed(std::string_view text) {
