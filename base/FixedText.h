@@ -21,9 +21,12 @@ public:
     }
 
     // Stores the bytes, cut to N or padded with blanks.
+    // The source may be a view of these very bytes.
     void Set(std::string_view cp1252) {
-        bytes_.fill(' ');
-        std::copy_n(cp1252.begin(), std::min(N, cp1252.size()), bytes_.begin());
+        std::array<char, N> fresh;
+        fresh.fill(' ');
+        std::copy_n(cp1252.begin(), std::min(N, cp1252.size()), fresh.begin());
+        bytes_ = fresh;
     }
     void SetUtf8(std::string_view utf8) { Set(Utf8_ToCp1252(utf8)); }
 

@@ -103,7 +103,7 @@ std::string FormatFixed(Decimal d, const Mask& k) {
     const std::string frac = Decimals(d, k.required, count, 0);
     std::string out = (d.negative && !d.IsZero()) ? "-" : "";
     out += whole;
-    if (!frac.empty() || k.required > 0) out += "." + frac;
+    if (!frac.empty() || k.required > 0) out.append(1, '.').append(frac);
     return out;
 }
 
@@ -114,7 +114,7 @@ std::string FormatScientific(Decimal d, const Mask& k) {
     std::string out = (d.negative && !d.IsZero()) ? "-" : "";
     if (!d.IsZero() || k.leadingZero) out += static_cast<char>('0' + d.DigitAt(d.exp10));
     const std::string frac = Decimals(d, k.required, count, d.exp10);
-    if (!frac.empty() || k.required > 0) out += "." + frac;
+    if (!frac.empty() || k.required > 0) out.append(1, '.').append(frac);
     std::string e = std::to_string(std::abs(exponent));
     if (static_cast<int>(e.size()) < k.expDigits) e.insert(0, k.expDigits - e.size(), '0');
     out += exponent < 0 ? "E-" : "E+";

@@ -21,8 +21,7 @@ bool AskOk(const char* question) {
 class PlaceCheck {
 public:
     explicit PlaceCheck(int16_t slot)
-        : i_(slot),
-          d_(DragType),
+        : d_(DragType),
           ec_(ElementCount),
           p_(Element[slot - 1].ElementType),
           c_(Element[slot].ElementType),
@@ -86,7 +85,7 @@ private:
         return 1;
     }
 
-    int16_t i_, d_, ec_, p_, c_, n_;
+    int16_t d_, ec_, p_, c_, n_;
 };
 
 // First digit of the code as two-digit text: 5 gives "05", so 0.
@@ -138,7 +137,7 @@ int16_t Chain_DeleteCheck(int16_t slot) {
 
 void Chain_CloseSlot() {
     const int16_t selected = SelectedElement;
-    if (selected <= 0 || selected > 19) return;
+    if (selected <= 0 || selected >= ElementCount) return;  // no component there: the motor stays
     ClearElement(Element[selected]);
     for (int k = selected; k <= 18; ++k) Element[k] = Element[k + 1];
     if (ElementCount - 1 >= 0) ClearElement(Element[ElementCount - 1]);

@@ -1,18 +1,352 @@
 #include "workbench/frmMain.h"
 
-#include <QEvent>
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QToolBar>
+#include <QVBoxLayout>
 
 #include "base/MsgBox.h"
 #include "base/RuntimeError.h"
+#include "calc/mdlCulcurate.h"
+#include "commands/ChainCommands.h"
+#include "commands/PatternCommands.h"
 #include "core/Activation.h"
+#include "core/Catalogue.h"
+#include "core/Document.h"
+#include "core/Tables.h"
+#include "pattern/PatarnRows.h"
+#include "pattern/ui/PatarnGrid.h"
+#include "pattern/ui/PatternGraph.h"
+#include "workbench/ChainStrip.h"
+#include "workbench/QtSettingsStore.h"
+#include "workbench/ResultGrid.h"
+#include "workbench/frmMeca.h"
+
+namespace {
+
+QLabel* Caption(const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    QFont f = label->font();
+    f.setBold(true);
+    label->setFont(f);
+    return label;
+}
+
+}  // namespace
 
 frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
     setObjectName("frmMain");
-    resize(800, 600);
+    Q_INIT_RESOURCE(icons);
+    BuildMenus();
+    BuildToolBar();
+    setCentralWidget(BuildCentre());
+    meca_ = new frmMeca([this] { Disp_Reset(); }, this);
+    resize(1180, 760);
+    Window_Restore(this, kMainWindowKeys);
     Disp_Reset();
 }
 
-void frmMain::Disp_Reset() { setWindowTitle("Torvane-[Create application]"); }
+frmMain::~frmMain() = default;
+
+QAction* frmMain::Action(const QString& name) const { return findChild<QAction*>(name); }
+
+QWidget* frmMain::BuildCentre() {
+    auto* centre = new QWidget(this);
+    Picture1 = new QWidget(centre);
+    Picture1->setObjectName("Picture1");
+    Picture1->setFixedSize(1, 1);
+    Picture1->setFocusPolicy(Qt::StrongFocus);
+    Picture1->installEventFilter(this);
+
+    strip = new ChainStrip(centre);
+    strip->onClick = [this](int s) { RunCommand([this, s] { imgElement_Click(s); }); };
+    strip->onRightClick = [this](int s, QPoint g) { imgElement_RightClick(s, g); };
+    strip->onDrop = [this](int s, int16_t type) { RunCommand([this, s, type] { imgElement_DragDrop(s, type); }); };
+    strip->onScroll = [this](int v) { HScroll1_Change(v); };
+
+    auto* motorBox = new QGridLayout;
+    motorBox->addWidget(Caption("Motor", centre), 0, 0);
+    lblMotor = new QLabel(centre);
+    lblMotor->setObjectName("lblMotor");
+    lblMotor->setFrameShape(QFrame::Panel);
+    lblMotor->setFrameShadow(QFrame::Sunken);
+    lblMotor->setMinimumWidth(180);
+    motorBox->addWidget(lblMotor, 0, 1);
+    motorBox->addWidget(Caption("Driver", centre), 1, 0);
+    lblDriver = new QLabel(centre);
+    lblDriver->setObjectName("lblDriver");
+    lblDriver->setFrameShape(QFrame::Panel);
+    lblDriver->setFrameShadow(QFrame::Sunken);
+    motorBox->addWidget(lblDriver, 1, 1);
+    motorBox->setRowStretch(2, 1);
+
+    auto* top = new QHBoxLayout;
+    top->addWidget(strip, 1);
+    top->addLayout(motorBox);
+    top->addWidget(Picture1);
+
+    vsfPatarn = new PatarnGrid(centre);
+    vsfPatarn->onAfterEdit = [this](int r, int c) { vsfPatarn_AfterEdit(r, c); };
+    vsfPatarn->onDeleteKey = [this] { mnuDelete2_Click(); };
+    vsfPatarn->onContextMenu = [this](QPoint g) { mnuRight2->popup(g); };
+    auto* left = new QVBoxLayout;
+    left->addWidget(Caption("Operating Pattern", centre));
+    left->addWidget(vsfPatarn, 1);
+
+    picCirclePatarn = new PatternGraph(PatternGraph::Kind::Speed, centre);
+    picCirclePatarn->setObjectName("picCirclePatarn");
+    picTorquePatarn = new PatternGraph(PatternGraph::Kind::Torque, centre);
+    picTorquePatarn->setObjectName("picTorquePatarn");
+    vsfMotor = new ResultGrid(centre);
+    auto* right = new QVBoxLayout;
+    right->addWidget(Caption("Rotational speed", centre));
+    right->addWidget(picCirclePatarn, 1);
+    right->addWidget(Caption("Torque", centre));
+    right->addWidget(picTorquePatarn, 1);
+    right->addWidget(Caption("Selection Results", centre));
+    right->addWidget(vsfMotor);
+    vsfMotor->setMinimumHeight(vsfMotor->horizontalHeader()->height() + 7 * vsfMotor->rowHeight(0) + 4);
+
+    auto* bottom = new QHBoxLayout;
+    bottom->addLayout(left, 3);
+    bottom->addLayout(right, 2);
+
+    auto* main = new QVBoxLayout(centre);
+    main->addLayout(top);
+    main->addLayout(bottom, 1);
+    return centre;
+}
+
+void frmMain::BuildMenus() {
+    auto add = [this](QMenu* menu, const char* name, const QString& caption, const QKeySequence& key,
+                      std::function<void()> command) {
+        QAction* a = menu->addAction(caption);
+        a->setObjectName(name);
+        if (!key.isEmpty()) a->setShortcut(key);
+        if (command) connect(a, &QAction::triggered, this, [this, command] { RunCommand(command); });
+        else a->setEnabled(false);
+        return a;
+    };
+    QMenu* file = menuBar()->addMenu("File(&F)");
+    file->setObjectName("mnuFile");
+    add(file, "mnuFileNew", "Create(&N)", {}, [this] { mnuFileNew_Click(); });
+    add(file, "mnuFileOpen", "Open(&O)", QKeySequence("Ctrl+O"), [this] { mnuFileOpen_Click(); });
+    add(file, "mnuFileSave", "Save(&S)", QKeySequence("Ctrl+S"), [this] { mnuFileSave_Click(); });
+    add(file, "mnuFileSaveAs", "Save As(&A)", {}, [this] { mnuFileSaveAs_Click(); });
+    add(file, "mnuCulcurate", "Save Results", {}, [this] { mnuCulcurate_Click(); });
+    file->addSeparator();
+    add(file, "mnuFilePrint", "Print(&P)...", QKeySequence("Ctrl+P"), nullptr);
+    add(file, "mnu", "Administrator(&U)", {}, nullptr);
+    file->addSeparator();
+    QAction* end = file->addAction("Exit(&X)");
+    end->setObjectName("mnuEnd");
+    connect(end, &QAction::triggered, this, &QWidget::close);
+
+    QMenu* tools = menuBar()->addMenu("Tools(&T)");
+    tools->setObjectName("mnuEdit");
+    add(tools, "mnuMortorSelect", "Motor Selection(&S)", {}, nullptr);
+    tools->addSeparator();
+    add(tools, "mnuElementSelect", "Component Selection(&I)", {}, nullptr);
+    tools->addSeparator();
+    add(tools, "mnuElementData", "Component Settings(&D)", {}, nullptr);
+    add(tools, "mnuPatarn", "Trapezoid Patterns(&T)", {}, nullptr);
+    tools->addSeparator();
+    add(tools, "mnuPerSet", "Units(&U)...", {}, nullptr);
+
+    QMenu* help = menuBar()->addMenu("Help(&H)");
+    help->setObjectName("mnuHelp");
+    add(help, "mnuHelpAbout", "About this Program(&A)", {}, nullptr);
+
+    mnuRight1 = new QMenu(this);
+    mnuRight1->setObjectName("mnuRight1");
+    QAction* del1 = mnuRight1->addAction("Delete");
+    del1->setObjectName("mnuDelete1");
+    connect(del1, &QAction::triggered, this, [this] { RunCommand([this] { mnuDelete1_Click(); }); });
+    mnuRight2 = new QMenu(this);
+    mnuRight2->setObjectName("mnuRight2");
+    QAction* ins = mnuRight2->addAction("Insert");
+    ins->setObjectName("mnuInsert");
+    connect(ins, &QAction::triggered, this, [this] { mnuInsert_Click(); });
+    QAction* del2 = mnuRight2->addAction("Delete");
+    del2->setObjectName("mnuDelete2");
+    connect(del2, &QAction::triggered, this, [this] { mnuDelete2_Click(); });
+}
+
+void frmMain::BuildToolBar() {
+    tbToolBar = addToolBar("Toolbar");
+    tbToolBar->setObjectName("tbToolBar");
+    tbToolBar->setMovable(false);
+    tbToolBar->setIconSize(QSize(24, 24));
+    struct Key {
+        const char* key;
+        const char* tip;
+        const char* menu;  // the menu entry whose command the key runs
+    };
+    const Key keys[] = {{"New", "Create", "mnuFileNew"},        {"Open", "Open", "mnuFileOpen"},
+                        {"Save", "Save", "mnuFileSave"},        {"Print", "Print", "mnuFilePrint"},
+                        {"Motor", "Motor Selection", "mnuMortorSelect"},
+                        {"Element", "Component Settings", "mnuElementSelect"},
+                        {"Daikei", "Trapezoid Patterns", "mnuPatarn"}};
+    for (const Key& k : keys) {
+        QAction* menu = Action(k.menu);
+        QAction* a = tbToolBar->addAction(QIcon(QString(":/icons/%1.svg").arg(k.key)), k.key);
+        a->setObjectName(QString("tb%1").arg(k.key));
+        a->setToolTip(k.tip);
+        a->setEnabled(menu->isEnabled());
+        connect(menu, &QAction::changed, a, [a, menu] { a->setEnabled(menu->isEnabled()); });
+        connect(a, &QAction::triggered, menu, &QAction::trigger);
+        if (QString(k.key) == "Print") tbToolBar->addSeparator();
+    }
+}
+
+void frmMain::RunCommand(const std::function<void()>& command) {
+    Picture1->setFocus();
+    try {
+        command();
+    } catch (const RuntimeError& e) {
+        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
+        Disp_Refresh();
+    }
+}
+
+void frmMain::Disp_Reset() {
+    vsfPatarn->Disp_Patarn();
+    vsfMotor->Clear();
+    lblMotor->clear();
+    lblDriver->clear();
+    picCirclePatarn->Disp_Graph(Patarn, 0);
+    picTorquePatarn->Disp_Graph(Patarn, 0);
+    strip->Disp_Strip(0);
+    strip->ClearLooks();
+    setWindowTitle("Torvane-[Create application]");
+    strip->HScroll1->setValue(0);
+    vsfPatarn->scrollToTop();
+    vsfPatarn->setCurrentCell(0, 1);
+}
+
+void frmMain::Disp_Headers() {
+    vsfPatarn->Disp_Headers();
+    vsfMotor->Disp_Units();
+}
+
+void frmMain::Disp_Refresh() {
+    vsfPatarn->Disp_Patarn();
+    const int n = PatternRowCount;
+    picCirclePatarn->Disp_Graph(Patarn, n);
+    picTorquePatarn->Disp_Graph(Patarn, n);
+    Disp_Headers();
+    vsfMotor->Disp_Result(MotorSelected);
+    if (MotorSelected == 1) {
+        lblMotor->setText(QString::fromStdString(MotorModelText.Utf8()));
+        lblDriver->setText(QString::fromStdString(DriverModelText.Utf8()));
+    }
+    Disp_ElementList();
+    Disp_Strip(strip->HScroll1->value());
+}
+
+void frmMain::Disp_ElementList() {}
+
+void frmMain::Disp_Strip(int first) {
+    strip->Disp_Strip(first);
+    HScroll1_Change(first);
+}
+
+void frmMain::Disp_Loaded() {
+    Disp_Strip(strip->HScroll1->value());
+    imgElement_Click(1);
+    Disp_Refresh();
+}
+
+void frmMain::HScroll1_Change(int value) {
+    strip->Disp_Strip(value);
+    strip->ClearLooks();
+    if (SelectedElement != 0 && SelectedElement - value >= 0 && SelectedElement - value <= 7)
+        strip->SetSelectedLook(SelectedElement - value, true);
+    FirstVisible = static_cast<int16_t>(value);
+}
+
+void frmMain::imgElement_Click(int index) {
+    const int p = FirstVisible + index;
+    if (p >= 1 && p < ElementCount) {
+        SelectedElement = static_cast<int16_t>(p);
+    } else {
+        SelectedElement = 0;
+    }
+    HScroll1_Change(FirstVisible);
+}
+
+void frmMain::imgElement_RightClick(int index, QPoint global) {
+    const int p = FirstVisible + index;
+    if (p < 0 || p >= kElementSlots || Element[p].ElementType == kTypeEmpty) return;
+    imgElement_Click(index);
+    mnuRight1->popup(global);
+}
+
+void frmMain::Picture1_KeyDown(int key) {
+    switch (key) {
+        case Qt::Key_Delete: RunCommand([this] { mnuDelete1_Click(); }); return;
+        case Qt::Key_Left:
+            if (SelectedElement > 1) --SelectedElement;
+            else strip->HScroll1->setValue(0);
+            break;
+        case Qt::Key_Right:
+            if (SelectedElement < ElementCount - 1) ++SelectedElement;
+            break;
+        default: return;
+    }
+    HScroll1_Change(strip->HScroll1->value());
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == Picture1 && event->type() == QEvent::KeyPress) {
+        Picture1_KeyDown(static_cast<QKeyEvent*>(event)->key());
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void frmMain::mousePressEvent(QMouseEvent* event) {
+    Picture1->setFocus();
+    QMainWindow::mousePressEvent(event);
+}
+
+void frmMain::mnuFileNew_Click() {
+    if (!ConfirmLeave()) return;
+    show();
+    meca_->exec();
+    Form_Activate();
+}
+
+void frmMain::ShowMecaAtStart() {
+    meca_->exec();
+    Form_Activate();
+}
+
+void frmMain::mnuCulcurate_Click() {
+    if (ElementCount <= 1) {
+        MsgBox("Calculation results cannot be saved because there are no connected components.", "",
+               MsgIcon::Critical);
+        return;
+    }
+    SaveResults();
+}
+
+void frmMain::mnuMortorSelect_Click() {
+    if (PatternRowCount == 0) {
+        MsgBox("Motor cannot be selected because operating pattern is not input.", "", MsgIcon::Exclamation);
+        return;
+    }
+}
 
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
@@ -21,11 +355,65 @@ void frmMain::changeEvent(QEvent* event) {
 
 void frmMain::Form_Activate() {
     ActivationSeams seams;
+    seams.loadFile = [this](const std::string& path) { LoadFile(path); };
     seams.resetDisplay = [this] { Disp_Reset(); };
     seams.setTitle = [this](const std::string& t) { setWindowTitle(QString::fromStdString(t)); };
+    seams.recalculate = [] { Culcurate_All(); };
+    seams.refresh = [this] { Disp_Loaded(); };
+    seams.setUnitRow = [this] { Disp_Headers(); };
     try {
         Main_Activate(seams);
     } catch (const RuntimeError& e) {
         MsgBox(e.what(), "Torvane", MsgIcon::Critical);
     }
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    Picture1->setFocus();
+    if (!ConfirmLeave()) {
+        event->ignore();
+        return;
+    }
+    StorePosition();
+    meca_->hide();
+    event->accept();
+}
+
+void frmMain::imgElement_DragDrop(int index, int16_t type) {
+    const auto p = static_cast<int16_t>(index + FirstVisible);
+    if (!Chain_Drop(p, type)) return;
+    Disp_Refresh();
+}
+
+void frmMain::mnuDelete1_Click() {
+    if (!Chain_Delete()) return;
+    if (SelectedElement == 0) strip->HScroll1->setValue(0);
+    Disp_Refresh();
+}
+
+void frmMain::vsfPatarn_AfterEdit(int row, int col) {
+    const std::string text = vsfPatarn->CellText(vsfPatarn->GridRow(), vsfPatarn->GridCol());
+    try {
+        if (!Patarn_AfterEdit(row, col, text, vsfPatarn->EscapePending)) return;
+    } catch (const RuntimeError& e) {
+        MsgBox(e.what(), "Operating Pattern", MsgIcon::Critical);
+    }
+    vsfPatarn->Disp_Patarn();
+    picCirclePatarn->Disp_Graph(Patarn, PatternRowCount);
+    picTorquePatarn->Disp_Graph(Patarn, PatternRowCount);
+    Disp_Headers();
+    vsfMotor->Disp_Result(MotorSelected);
+    vsfPatarn->setFocus();
+}
+
+void frmMain::mnuInsert_Click() {
+    Patarn_InsertRow(Patarn, static_cast<int16_t>(vsfPatarn->GridRow() - 1));
+    vsfPatarn->Disp_Patarn();
+}
+
+void frmMain::mnuDelete2_Click() {
+    int low = 0, high = 0;
+    vsfPatarn->SelectedBlock(low, high);
+    if (!Patarn_DeleteRows(low, high)) return;
+    vsfPatarn_AfterEdit(0, 0);
 }

@@ -1,20 +1,91 @@
-// The main window of the workbench. At each activation it carries out what
-// the start-up or the mechanical system selection asked for.
+// The main window of the workbench: the chain strip, the pattern grid with
+// its two graphs, the results grid, the menus and the toolbar. Handlers read
+// the widgets, call the core and refresh from the tables.
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
+
+class QAction;
+class QLabel;
+class QMenu;
+class QToolBar;
+class QWidget;
+class ChainStrip;
+class PatarnGrid;
+class PatternGraph;
+class ResultGrid;
+class frmMeca;
 
 class frmMain : public QMainWindow {
     Q_OBJECT
 public:
     explicit frmMain(QWidget* parent = nullptr);
+    ~frmMain() override;
 
-    // The window side of a new document.
+    // The refresh pipeline and its parts.
+    void Disp_Refresh();
     void Disp_Reset();
+    void Disp_Strip(int first);
+    void Disp_ElementList();
+    void Disp_Loaded();
+    void Disp_Headers();
+
+    // Public operations of the form, called also from other windows.
+    void imgElement_Click(int index);
+    void mnuDelete1_Click();
+    void vsfPatarn_AfterEdit(int row, int col);
+
+    // Commands of the menus.
+    void mnuFileNew_Click();
+    void mnuFileOpen_Click();
+    bool mnuFileSave_Click();
+    bool mnuFileSaveAs_Click();
+    void mnuMortorSelect_Click();
+    void mnuCulcurate_Click();
+
+    // Asks for the start-up template when no file was named.
+    void ShowMecaAtStart();
+
+    frmMeca* Meca() const { return meca_; }
+
+    ChainStrip* strip = nullptr;
+    PatarnGrid* vsfPatarn = nullptr;
+    PatternGraph* picCirclePatarn = nullptr;
+    PatternGraph* picTorquePatarn = nullptr;
+    ResultGrid* vsfMotor = nullptr;
+    QLabel* lblMotor = nullptr;
+    QLabel* lblDriver = nullptr;
+    QWidget* Picture1 = nullptr;
+    QToolBar* tbToolBar = nullptr;
+    QMenu* mnuRight1 = nullptr;
+    QMenu* mnuRight2 = nullptr;
+
+    QAction* Action(const QString& name) const;
 
 protected:
     void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void BuildMenus();
+    void BuildToolBar();
+    QWidget* BuildCentre();
     void Form_Activate();
+    void HScroll1_Change(int value);
+    void imgElement_DragDrop(int index, int16_t type);
+    void imgElement_RightClick(int index, QPoint global);
+    void Picture1_KeyDown(int key);
+    void mnuInsert_Click();
+    void mnuDelete2_Click();
+    void RunCommand(const std::function<void()>& command);
+    void StorePosition();
+    bool ConfirmLeave();
+    void LoadFile(const std::string& path);
+    void SaveResults();
+
+    frmMeca* meca_ = nullptr;
+    bool closingConfirmed_ = false;
 };

@@ -4,6 +4,7 @@
 
 #include "base/MsgBox.h"
 #include "core/Activation.h"
+#include "core/Tables.h"
 #include "workbench/MsgBoxDialog.h"
 #include "workbench/SingleInstance.h"
 #include "workbench/frmMain.h"
@@ -29,5 +30,6 @@ int main(int argc, char** argv) {
     frmMain main;
     splash.close();
     main.show();
+    if (CommandFileGiven == 0) main.ShowMecaAtStart();
     return QApplication::exec();
 }

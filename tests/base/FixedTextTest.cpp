@@ -80,4 +80,10 @@ TEST_F(FixedTextTest, EqualityComparesAllBytes) {
     EXPECT_NE(FixedText<4>("ab"), FixedText<4>("abc"));
 }
 
+TEST_F(FixedTextTest, SettingFromItsOwnBytesKeepsThem) {
+    FixedText<8> t("abcdef");
+    t = t.Str().substr(2);
+    EXPECT_EQ(t.Raw(), "cdef    ");
+}
+
 }  // namespace

@@ -473,9 +473,19 @@ TEST_F(ChainTest, ClosingSlotOneScrollsTheStripBack) {
 }
 
 TEST_F(ChainTest, CloseSlotNeverTakesTheCountBelowOne) {
+    SetChain({51});
     SelectedElement = 1;
     Chain_CloseSlot();
     EXPECT_EQ(ElementCount, 1);
+    EXPECT_EQ(Element[0].ElementType, 51);  // the motor stays
+}
+
+TEST_F(ChainTest, CloseSlotBeyondTheChainChangesNothing) {
+    SetChain({51, 1, 31});
+    SelectedElement = 5;
+    Chain_CloseSlot();
+    EXPECT_EQ(ElementCount, 3);
+    EXPECT_EQ(Element[2].ElementType, 31);
 }
 
 TEST_F(ChainTest, CloseSlotKeepsThePatternRows) {

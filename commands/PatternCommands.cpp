@@ -1,0 +1,85 @@
+#include "commands/PatternCommands.h"
+
+#include "base/MsgBox.h"
+#include "base/Numeric.h"
+#include "calc/mdlCulcurate.h"
+#include "core/Tables.h"
+#include "pattern/GridText.h"
+#include "pattern/PatarnRows.h"
+
+namespace {
+
+void Store(int16_t i, int col, double value) {
+    const ColumnUnit u = Patarn_ColumnUnit(col, LoadMotion);
+    Patarn_SetField(Patarn, i, u.kind, u.unit, value, static_cast<int16_t>(col - 1));
+}
+
+void StoreCell(int gridRow, int col, double value) {
+    const auto i = static_cast<int16_t>(gridRow - 1);
+    switch (col) {
+        case 1:
+            Store(i, 1, value);
+            Patarn_SetField(Patarn, i, 0, 1, Patarn[i].Time - Patarn[i - 1].Time, FieldDeltaTime);
+            break;
+        case 2: Store(i, 2, value); break;
+        case 3: {
+            Store(i, 3, value);
+            double mass = 0;
+            Load_Inertia(Element, MotorSelected, mass);
+            Patarn_SetLoadSpeed(Patarn, i, 0, 0, 0);
+            break;
+        }
+        case 4:
+            Store(i, 4, value);
+            Patarn_SetSpeed(Patarn, i);
+            break;
+        case 5: {
+            const int16_t before = Patarn[i].RowState;
+            Store(i, 5, value);
+            if (before == 1) {
+                const double start = i == 1 ? 0 : Patarn[i - 1].LoadSpeed;
+                const double distance = i == 1 ? Patarn[1].Position : Patarn[i].Position - Patarn[i - 1].Position;
+                Patarn_SetLoadSpeed(Patarn, i, 1, start, distance);
+                Patarn_SetSpeed(Patarn, i);
+            } else {
+                Patarn_Retime(Patarn, static_cast<int16_t>(gridRow));
+            }
+            break;
+        }
+        default: break;
+    }
+}
+
+}  // namespace
+
+bool Patarn_AfterEdit(int gridRow, int col, const std::string& text, int16_t& escapePending) {
+    if (text.empty()) return false;
+    if (escapePending == 1) {
+        escapePending = 0;
+        return false;
+    }
+    DirtyFlag = 1;
+    if (gridRow >= 2 && gridRow <= kPatarnRows + 1) StoreCell(gridRow, col, Val(text));
+    Culcurate_All();
+    PatternRowCount = Patarn_CountRows(Patarn);
+    Patarn_SplitZero(Patarn);
+    Culcurate_All();
+    return true;
+}
+
+bool Patarn_DeleteRows(int low, int high) {
+    if (low < 2 || high < 2 || high > kPatarnRows + 1) return false;
+    const int top = low - 1, n = high - low + 1;
+    const double a = Patarn[top - 1].Speed, b = Patarn[top + n].Speed;
+    const bool reachesEnd = top + n - 1 >= kPatarnRows;
+    if (!reachesEnd && n < kPatarnRows && top != 1 && ((a > 0 && b < 0) || (a < 0 && b > 0))) {
+        MsgBox("Some data cannot be deleted.", "Operating Pattern", MsgIcon::Exclamation);
+        return false;
+    }
+    for (int r = top; r < top + n; ++r)
+        if (Patarn[r].RowState == 3 && PatternRowCount > 0) --PatternRowCount;
+    for (int r = top; r < top + n; ++r) Patarn_ClearRow(Patarn, static_cast<int16_t>(r));
+    for (int r = top + n; r <= kPatarnRows; ++r) Patarn[r - n] = Patarn[r];
+    for (int r = kPatarnRows; r >= kPatarnRows + 1 - n; --r) Patarn_ClearRow(Patarn, static_cast<int16_t>(r));
+    return true;
+}

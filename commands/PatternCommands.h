@@ -1,0 +1,17 @@
+// The commands of the pattern grid that need no window: storing an edited
+// cell with everything it drives, inserting and deleting rows.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+// After the edit of grid row gridRow (2..21), column col, whose cell now
+// holds text. An empty text stores nothing; a pending escape is cleared and
+// stores nothing. Row 0 or column 0 skip the storing and only recalculate.
+// Returns true when the recalculation ran.
+bool Patarn_AfterEdit(int gridRow, int col, const std::string& text, int16_t& escapePending);
+
+// Deletes the block of grid rows low..high. False when nothing happened: a
+// block above the first row, or a refusal ("Some data cannot be deleted.")
+// because the speeds around the block would change sign in one row.
+bool Patarn_DeleteRows(int low, int high);

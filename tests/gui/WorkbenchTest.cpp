@@ -1,0 +1,319 @@
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "core/Catalogue.h"
+#include "core/Tables.h"
+#include "pattern/PatarnRows.h"
+#include "pattern/ui/PatarnGrid.h"
+#include "pattern/ui/PatternGraph.h"
+#include "tests/support/TestState.h"
+#include "workbench/ChainStrip.h"
+#include "workbench/FileDialog.h"
+#include "workbench/ResultGrid.h"
+#include "workbench/frmMain.h"
+#include "workbench/frmMeca.h"
+
+namespace {
+
+class WorkbenchTest : public StateTest {
+protected:
+    // The windows draw the pictures the program carries beside it.
+    void SetUp() override {
+        StateTest::SetUp();
+        std::filesystem::copy(TORVANE_SOURCE_DIR "/data/app/BMP_data", AppPath + "/BMP_data",
+                              std::filesystem::copy_options::recursive);
+    }
+
+    void TearDown() override {
+        FileDialog_Script({});
+        StateTest::TearDown();
+    }
+
+    // Shows the start-up question and answers it with a picture and OK.
+    void StartWith(frmMain& w, int picture) {
+        w.show();
+        QTimer::singleShot(0, [&w, picture] {
+            frmMeca* m = w.Meca();
+            EXPECT_TRUE(m->isVisible());
+            QTest::mouseClick(m->picMachine[picture], Qt::LeftButton);
+            m->cmdOK->click();
+        });
+        w.ShowMecaAtStart();
+    }
+
+    // Types a text into a cell of the pattern grid and commits it with Enter.
+    static void Type(frmMain& w, int gridRow, int col, const QString& text) {
+        PatarnGrid* g = w.vsfPatarn;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // the previous editor goes
+        g->setCurrentCell(gridRow - 2, col);
+        g->editItem(g->item(gridRow - 2, col));
+        auto* edit = qobject_cast<QLineEdit*>(g->indexWidget(g->currentIndex()));
+        ASSERT_NE(edit, nullptr);
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+        QTest::keyClick(edit, Qt::Key_Return);
+        QApplication::processEvents();
+    }
+
+    // A drag from another window enters the slot and is dropped there.
+    static void DropOn(QWidget* target, QMimeData& data) {
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &enter);
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &drop);
+    }
+
+    static QString Cell(frmMain& w, int gridRow, int col) { return w.vsfPatarn->item(gridRow - 2, col)->text(); }
+};
+
+}  // namespace
+
+TEST_F(WorkbenchTest, StartWithoutAFileShowsTheQuestionAndBuildsThePickedMachine) {
+    frmMain w;
+    StartWith(w, 1);
+    EXPECT_EQ(ElementCount, 4);
+    EXPECT_EQ(w.strip->lblElement[0]->text(), "Motor");
+    EXPECT_EQ(w.strip->lblElement[1]->text(), "Reduct. gear");
+    EXPECT_EQ(w.strip->lblElement[2]->text(), "H ballscrew");
+    EXPECT_EQ(w.strip->lblElement[3]->text(), "H linear");
+    EXPECT_EQ(w.strip->lblElement[4]->text(), "");
+    EXPECT_EQ(w.windowTitle(), "Torvane-[Horizontal ballscrew]");
+    EXPECT_EQ(DocumentNamed, 0);
+}
+
+TEST_F(WorkbenchTest, CancelAtStartLeavesTheMotorAlone) {
+    frmMain w;
+    w.show();
+    QTimer::singleShot(0, [&w] { w.Meca()->CmdCancel->click(); });
+    w.ShowMecaAtStart();
+    EXPECT_EQ(ElementCount, 1);
+    EXPECT_EQ(DocumentNamed, 0);
+    EXPECT_EQ(DirtyFlag, 0);
+    EXPECT_EQ(MecaResult, 0);
+}
+
+TEST_F(WorkbenchTest, EnterOnAnEmptyPictureKeepsTheQuestionOpen) {
+    frmMain w;
+    w.show();
+    QTimer::singleShot(0, [&w] {
+        frmMeca* m = w.Meca();
+        m->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m));
+        m->picMachine[10]->setFocus();
+        QTest::keyClick(m->picMachine[10], Qt::Key_Return);
+        EXPECT_EQ(MecaResult, 1);
+        EXPECT_TRUE(m->isVisible());
+        QTest::keyClick(m->picMachine[10], Qt::Key_Escape);
+    });
+    w.ShowMecaAtStart();
+    EXPECT_EQ(ElementCount, 1);
+}
+
+TEST_F(WorkbenchTest, ArrowKeysWrapOverThePictures) {
+    frmMain w;
+    w.show();
+    QTimer::singleShot(0, [&w] {
+        frmMeca* m = w.Meca();
+        m->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m));
+        m->picMachine[2]->setFocus();
+        QTest::keyClick(m->picMachine[2], Qt::Key_Up);
+        EXPECT_EQ(MecaTemplateNo, 10);
+        QTest::keyClick(m->picMachine[10], Qt::Key_Down);
+        EXPECT_EQ(MecaTemplateNo, 2);
+        m->CmdCancel->click();
+    });
+    w.ShowMecaAtStart();
+}
+
+TEST_F(WorkbenchTest, TypingThreeRowsFillsTheGridTheGraphsAndTheResults) {
+    frmMain w;
+    StartWith(w, 1);
+    Type(w, 2, 1, "0.1");
+    Type(w, 2, 3, "3000");
+    Type(w, 3, 2, "0.5");
+    Type(w, 3, 3, "3000");
+    Type(w, 4, 2, "0.1");
+    Type(w, 4, 3, "0");
+    EXPECT_EQ(PatternRowCount, 3);
+    EXPECT_EQ(Cell(w, 2, 1), "0.100");
+    EXPECT_EQ(Cell(w, 3, 1), "0.600");
+    EXPECT_EQ(Cell(w, 4, 1), "0.700");
+    EXPECT_EQ(Cell(w, 3, 3), "3000.0");
+    EXPECT_FALSE(Cell(w, 2, 6).isEmpty());
+    EXPECT_FALSE(w.picCirclePatarn->Drawing().curve.empty());
+    EXPECT_EQ(w.picTorquePatarn->Drawing().curve.size(), 6u);
+    EXPECT_FALSE(w.vsfMotor->item(0, 2)->text().isEmpty());
+    EXPECT_EQ(w.vsfMotor->item(4, 2)->text(), "3000");
+    EXPECT_EQ(DirtyFlag, 1);
+}
+
+TEST_F(WorkbenchTest, IllegalTimeIsRefusedWithTheMessage) {
+    frmMain w;
+    StartWith(w, 1);
+    Type(w, 2, 1, "0");
+    ASSERT_FALSE(msg.Seen().empty());
+    EXPECT_EQ(msg.Seen().back().text, "Illegal input value.");
+    EXPECT_EQ(Patarn[1].RowState, 0);
+}
+
+TEST_F(WorkbenchTest, SaveResultsWithTheMotorAloneGivesTheMessageAndNoDialog) {
+    frmMain w;
+    FileDialog_Script({"/nonexistent/never.txt"});
+    w.Action("mnuCulcurate")->trigger();
+    ASSERT_EQ(msg.Seen().size(), 1u);
+    EXPECT_EQ(msg.Seen()[0].text, "Calculation results cannot be saved because there are no connected components.");
+    EXPECT_EQ(msg.Seen()[0].icon, MsgIcon::Critical);
+    EXPECT_EQ(msg.Seen()[0].title, "");
+    EXPECT_EQ(FileDialog_Remaining(), 1);
+}
+
+TEST_F(WorkbenchTest, ExitWithoutChangesAsksNothing) {
+    frmMain w;
+    w.show();
+    EXPECT_TRUE(w.close());
+    EXPECT_TRUE(msg.Seen().empty());
+}
+
+TEST_F(WorkbenchTest, CancelToSaveChangesKeepsTheWindowAndTheTables) {
+    frmMain w;
+    StartWith(w, 1);
+    DirtyFlag = 1;
+    const auto before = Element;
+    msg.Answer(MsgAnswer::Cancel);
+    EXPECT_FALSE(w.close());
+    EXPECT_TRUE(w.isVisible());
+    ASSERT_EQ(msg.Seen().size(), 1u);
+    EXPECT_EQ(msg.Seen()[0].text, "Save changes?");
+    EXPECT_EQ(msg.Seen()[0].buttons, MsgButtons::YesNoCancel);
+    EXPECT_EQ(ElementCount, 4);
+    EXPECT_EQ(DirtyFlag, 1);
+    for (int i = 0; i < kElementSlots; ++i) EXPECT_EQ(Element[i].ElementType, before[i].ElementType);
+    DirtyFlag = 0;
+}
+
+TEST_F(WorkbenchTest, DeletingTheOnlyComponentScrollsHomeAndSelectsNothing) {
+    frmMain w;
+    w.show();
+    Element[1].ElementType = 5;
+    Item_Defaults(5, Element[1].Item);
+    ElementCount = 2;
+    SelectedElement = 1;
+    w.strip->HScroll1->setValue(1);
+    msg.Answer(MsgAnswer::OK);
+    w.mnuDelete1_Click();
+    EXPECT_EQ(ElementCount, 1);
+    EXPECT_EQ(SelectedElement, 0);
+    EXPECT_EQ(w.strip->HScroll1->value(), 0);
+    EXPECT_EQ(msg.Seen()[0].text, "Delete?");
+}
+
+TEST_F(WorkbenchTest, TheMotorCannotBeDeleted) {
+    frmMain w;
+    SelectedElement = 0;
+    w.mnuDelete1_Click();
+    ASSERT_EQ(msg.Seen().size(), 1u);
+    EXPECT_EQ(msg.Seen()[0].text, "Cannot delete.");
+    EXPECT_EQ(msg.Seen()[0].title, "Delete Component");
+}
+
+TEST_F(WorkbenchTest, LeftArrowOnTheFirstComponentOnlyScrollsHome) {
+    frmMain w;
+    StartWith(w, 1);
+    SelectedElement = 1;
+    w.strip->HScroll1->setValue(3);
+    w.Picture1->setFocus();
+    QTest::keyClick(w.Picture1, Qt::Key_Left);
+    EXPECT_EQ(SelectedElement, 1);
+    EXPECT_EQ(w.strip->HScroll1->value(), 0);
+    QTest::keyClick(w.Picture1, Qt::Key_Right);
+    EXPECT_EQ(SelectedElement, 2);
+}
+
+TEST_F(WorkbenchTest, RightButtonOnAnEmptySlotShowsNoMenu) {
+    frmMain w;
+    StartWith(w, 1);
+    QTest::mouseClick(w.strip->imgElement[5], Qt::RightButton);
+    EXPECT_FALSE(w.mnuRight1->isVisible());
+}
+
+TEST_F(WorkbenchTest, ClickingASlotSelectsItsElementButNeverTheMotor) {
+    frmMain w;
+    StartWith(w, 1);
+    QTest::mouseClick(w.strip->imgElement[2], Qt::LeftButton);
+    EXPECT_EQ(SelectedElement, 2);
+    QTest::mouseClick(w.strip->imgElement[0], Qt::LeftButton);
+    EXPECT_EQ(SelectedElement, 0);
+}
+
+TEST_F(WorkbenchTest, TheElementKeyRunsTheComponentSelectionAndNotTheSettings) {
+    frmMain w;
+    QAction* select = w.Action("mnuElementSelect");
+    QAction* settings = w.Action("mnuElementData");
+    select->setEnabled(true);
+    settings->setEnabled(true);
+    QSignalSpy selected(select, &QAction::triggered), set(settings, &QAction::triggered);
+    w.Action("tbElement")->trigger();
+    EXPECT_EQ(selected.count(), 1);
+    EXPECT_EQ(set.count(), 0);
+    EXPECT_EQ(w.Action("tbElement")->toolTip(), "Component Settings");
+}
+
+TEST_F(WorkbenchTest, ADropOfATypeCodeFromAnySourcePlacesTheComponent) {
+    frmMain w;
+    StartWith(w, 1);
+    QMimeData data;
+    data.setData(kTypeMime, "2");
+    DropOn(w.strip->imgElement[4], data);
+    EXPECT_EQ(ElementCount, 4);  // a gear cannot follow a linear load: refused
+    ASSERT_FALSE(msg.Seen().empty());
+    EXPECT_EQ(msg.Seen().back().text, "Cannot insert/overwrite.");
+    msg.Clear();
+    data.setData(kTypeMime, "2");
+    msg.Answer(MsgAnswer::Insert);
+    DropOn(w.strip->imgElement[1], data);
+    EXPECT_EQ(ElementCount, 5);
+    EXPECT_EQ(Element[1].ElementType, 2);
+    EXPECT_EQ(Element[2].ElementType, 1);
+    EXPECT_EQ(w.strip->lblElement[1]->text(), "Gear");
+    EXPECT_EQ(DirtyFlag, 1);
+    DirtyFlag = 0;
+}
+
+TEST_F(WorkbenchTest, SaveAsNewAndOpenRoundTripThroughTheMenus) {
+    frmMain w;
+    StartWith(w, 1);
+    Type(w, 2, 1, "0.1");
+    Type(w, 2, 3, "3000");
+    const QString path = QString::fromStdString(appDir.File("round.AP2"));
+    FileDialog_Script({path});
+    w.Action("mnuFileSaveAs")->trigger();
+    EXPECT_EQ(DirtyFlag, 0);
+    EXPECT_EQ(w.windowTitle(), "Torvane-[round.AP2]");
+
+    QTimer::singleShot(0, [&w] { w.Meca()->CmdCancel->click(); });
+    w.Action("mnuFileNew")->trigger();
+    EXPECT_EQ(ElementCount, 4);  // cancelling the question changes nothing
+    Patarn_ClearRow(Patarn, 1);
+    PatternRowCount = 0;
+
+    FileDialog_Script({path});
+    w.Action("mnuFileOpen")->trigger();
+    EXPECT_EQ(ElementCount, 4);
+    EXPECT_EQ(PatternRowCount, 1);
+    EXPECT_EQ(DocumentNamed, 1);
+    EXPECT_EQ(w.strip->lblElement[2]->text(), "H ballscrew");
+    EXPECT_EQ(Cell(w, 2, 1), "0.100");
+}

@@ -1,0 +1,42 @@
+// The chain strip of the main window: eight visible slots with the picture
+// and caption of each element, the selection frame, and HScroll1 under them.
+// It accepts drops of anything that carries a component type code.
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <functional>
+
+class QLabel;
+class QFrame;
+class QScrollBar;
+
+inline constexpr const char* kTypeMime = "application/x-torvane-type";
+
+class ChainStrip : public QWidget {
+    Q_OBJECT
+public:
+    explicit ChainStrip(QWidget* parent = nullptr);
+
+    std::array<QLabel*, 8> imgElement{};
+    std::array<QLabel*, 8> lblElement{};
+    std::array<QFrame*, 8> Shape1{};
+    QScrollBar* HScroll1 = nullptr;
+
+    // Shows the elements first .. first+7.
+    void Disp_Strip(int first);
+    // The looks of a slot.
+    void SetSelectedLook(int slot, bool selected);
+    void ClearLooks();
+
+    std::function<void(int slot)> onClick;                 // imgElement_Click
+    std::function<void(int slot, QPoint global)> onRightClick;
+    std::function<void(int slot, int16_t type)> onDrop;    // a type dropped on a slot
+    std::function<void(int value)> onScroll;               // HScroll1 changed
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    int SlotOf(QObject* watched) const;
+};

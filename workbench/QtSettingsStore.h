@@ -1,0 +1,18 @@
+// The per-user settings store of the window program, and the placing of a
+// window by its stored position.
+#pragma once
+
+#include "persist/WindowPlace.h"
+
+class QWidget;
+
+class QtSettingsStore : public SettingsStore {
+public:
+    std::optional<std::string> Get(std::string_view section, std::string_view key) const override;
+    void Set(std::string_view section, std::string_view key, std::string_view value) override;
+};
+
+// Moves the window to its stored place (in twips) at load.
+void Window_Restore(QWidget* window, const WindowKeys& keys);
+// Stores the window's place at unload, unless it is minimised.
+void Window_Save(const QWidget* window, const WindowKeys& keys);

@@ -1,0 +1,70 @@
+#include "workbench/ResultGrid.h"
+
+#include <QHeaderView>
+
+#include "base/Cp1252.h"
+#include "pattern/GridText.h"
+
+namespace {
+
+QString Text(const std::string& cp1252) { return QString::fromStdString(Cp1252_ToUtf8(cp1252)); }
+
+}  // namespace
+
+ResultGrid::ResultGrid(QWidget* parent) : QTableWidget(7, 5, parent) {
+    setObjectName("vsfMotor");
+    setHorizontalHeaderLabels({"Item", "Units", "Calculated value", "Rating", "Rated ratio"});
+    const int widths[] = {2100, 1100, 1400, 1100, 1100};
+    for (int c = 0; c < 5; ++c) setColumnWidth(c, widths[c] / 15);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    horizontalHeader()->setStretchLastSection(true);
+    verticalHeader()->hide();
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setFocusPolicy(Qt::NoFocus);
+    setSpan(5, 0, 2, 1);
+    Clear();
+}
+
+QTableWidgetItem* ResultGrid::Cell(int row, int col) {
+    QTableWidgetItem* it = item(row, col);
+    if (!it) {
+        it = new QTableWidgetItem;
+        it->setTextAlignment(col >= 2 ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
+        setItem(row, col, it);
+    }
+    return it;
+}
+
+void ResultGrid::Clear() {
+    const auto rows = Result_Texts(0);
+    for (int r = 0; r < 7; ++r) {
+        Cell(r, 0)->setText(Text(rows[r].label));
+        for (int c = 2; c < 5; ++c) Cell(r, c)->setText({});
+        Cell(r, 4)->setForeground(palette().color(QPalette::WindowText));
+    }
+    Disp_Units();
+}
+
+void ResultGrid::Disp_Units() {
+    const auto rows = Result_Texts(0);
+    for (int r = 0; r < 7; ++r) Cell(r, 1)->setText(Text(rows[r].unit));
+}
+
+void ResultGrid::Disp_Result(int16_t motorSelected) {
+    setUpdatesEnabled(false);
+    const auto rows = Result_Texts(motorSelected);
+    for (int r = 0; r < 7; ++r) {
+        Cell(r, 2)->setText(Text(rows[r].calculated));
+        if (motorSelected != 1) continue;
+        Cell(r, 3)->setText(Text(rows[r].rating));
+        Cell(r, 4)->setText(Text(rows[r].ratio));
+        switch (rows[r].ratioColour) {
+            case CellColour::Red: Cell(r, 4)->setForeground(QColor(255, 0, 0)); break;
+            case CellColour::Orange: Cell(r, 4)->setForeground(QColor(255, 128, 0)); break;
+            case CellColour::WindowText: Cell(r, 4)->setForeground(palette().color(QPalette::WindowText)); break;
+            case CellColour::Unchanged: break;
+        }
+    }
+    setUpdatesEnabled(true);
+}

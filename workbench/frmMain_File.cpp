@@ -1,0 +1,75 @@
+// The file commands of the main window: New's question, Open, Save, Save As,
+// Save Results, and the position kept at closing.
+#include <QApplication>
+#include <QFileInfo>
+
+#include "base/MsgBox.h"
+#include "commands/DocumentCommands.h"
+#include "core/Tables.h"
+#include "persist/mdlFile.h"
+#include "reports/mdlFileOutput.h"
+#include "workbench/FileDialog.h"
+#include "workbench/QtSettingsStore.h"
+#include "workbench/frmMain.h"
+
+namespace {
+
+const QString kDocumentFilter = "Motor Selection Data(*.AP2)";
+const QString kResultsFilter = "(*.TXT)";
+
+class Hourglass {
+public:
+    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Hourglass() { QApplication::restoreOverrideCursor(); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+};
+
+}  // namespace
+
+bool frmMain::ConfirmLeave() {
+    return Document_ConfirmLeave([this] { return mnuFileSave_Click(); });
+}
+
+void frmMain::LoadFile(const std::string& path) {
+    FileLoadSeams seams;
+    seams.resetDisplay = [this] { Disp_Reset(); };
+    seams.refresh = [this] { Disp_Loaded(); };
+    seams.setTitle = [this](const std::string& t) { setWindowTitle(QString::fromStdString(t)); };
+    File_Load(path, seams);
+}
+
+void frmMain::mnuFileOpen_Click() {
+    if (!ConfirmLeave()) return;
+    const QString path = FileDialog_Open(this, kDocumentFilter);
+    if (path.isEmpty()) return;
+    FileName = path.toStdString();
+    LoadFile(FileName);
+    imgElement_Click(1);
+}
+
+bool frmMain::mnuFileSave_Click() {
+    if (DocumentNamed != 1) return mnuFileSaveAs_Click();
+    Hourglass wait;
+    if (!File_Save(FileName)) return false;
+    DirtyFlag = 0;
+    return true;
+}
+
+bool frmMain::mnuFileSaveAs_Click() {
+    const QString path = FileDialog_Save(this, kDocumentFilter);
+    if (path.isEmpty()) return false;
+    if (!File_Save(path.toStdString())) return false;
+    DirtyFlag = 0;
+    FileName = path.toStdString();
+    setWindowTitle("Torvane-[" + QFileInfo(path).fileName() + "]");
+    return true;
+}
+
+void frmMain::SaveResults() {
+    const QString path = FileDialog_Save(this, kResultsFilter);
+    if (path.isEmpty()) return;
+    Results_Save(path.toStdString());
+}
+
+void frmMain::StorePosition() { Window_Save(this, kMainWindowKeys); }
