@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "base/Cp1252.h"
+#include "common/ui/SelectionLook.h"
 #include "core/Catalogue.h"
 #include "core/Tables.h"
 #include "workbench/Pictures.h"
@@ -74,17 +75,7 @@ void ChainStrip::Disp_Strip(int first) {
 
 void ChainStrip::SetSelectedLook(int slot, bool selected) {
     if (slot < 0 || slot > 7) return;
-    const QPalette& base = palette();
-    const QColor windowText = base.color(QPalette::WindowText);
-    const QColor highlightText = base.color(QPalette::HighlightedText);
-    QPalette p = lblElement[slot]->palette();
-    p.setColor(QPalette::Window, selected ? highlightText : windowText);
-    p.setColor(QPalette::WindowText, selected ? windowText : highlightText);
-    lblElement[slot]->setPalette(p);
-    Shape1[slot]->setStyleSheet(selected ? QString("#%1 { border: 2px solid palette(highlight); }")
-                                                 .arg(Shape1[slot]->objectName())
-                                          : QString("#%1 { border: 2px solid transparent; }")
-                                                 .arg(Shape1[slot]->objectName()));
+    SelectionLook_Set(Shape1[slot], lblElement[slot], selected);
 }
 
 void ChainStrip::ClearLooks() {

@@ -1,8 +1,11 @@
 #include "workbench/ResultGrid.h"
 
 #include <QHeaderView>
+#include <numeric>
+#include <vector>
 
 #include "base/Cp1252.h"
+#include "common/ui/ColumnFit.h"
 #include "pattern/GridText.h"
 
 namespace {
@@ -14,15 +17,20 @@ QString Text(const std::string& cp1252) { return QString::fromStdString(Cp1252_T
 ResultGrid::ResultGrid(QWidget* parent) : QTableWidget(7, 5, parent) {
     setObjectName("vsfMotor");
     setHorizontalHeaderLabels({"Item", "Units", "Calculated value", "Rating", "Rated ratio"});
-    const int widths[] = {2100, 1100, 1400, 1100, 1100};
-    for (int c = 0; c < 5; ++c) setColumnWidth(c, widths[c] / 15);
+    const std::vector<int> twips = {2100, 1100, 1400, 1100, 1100};
+    new ColumnFit(this, twips);
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
-    horizontalHeader()->setStretchLastSection(true);
     verticalHeader()->hide();
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::NoSelection);
     setFocusPolicy(Qt::NoFocus);
     setSpan(5, 0, 2, 1);
+    // All seven rows and every column always show: the grid never scrolls.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setMinimumWidth(std::accumulate(twips.begin(), twips.end(), 0) / 15 + 2 * frameWidth());
+    setMinimumHeight(horizontalHeader()->sizeHint().height() + 7 * verticalHeader()->defaultSectionSize() +
+                     2 * frameWidth());
     Clear();
 }
 

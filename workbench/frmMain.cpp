@@ -115,11 +115,10 @@ QWidget* frmMain::BuildCentre() {
     right->addWidget(picTorquePatarn, 1);
     right->addWidget(Caption("Selection Results", centre));
     right->addWidget(vsfMotor);
-    vsfMotor->setMinimumHeight(vsfMotor->horizontalHeader()->height() + 7 * vsfMotor->rowHeight(0) + 4);
 
     auto* bottom = new QHBoxLayout;
-    bottom->addLayout(left, 3);
-    bottom->addLayout(right, 2);
+    bottom->addLayout(left, 5);
+    bottom->addLayout(right, 4);
 
     auto* main = new QVBoxLayout(centre);
     main->addLayout(top);
@@ -327,8 +326,8 @@ void frmMain::mnuFileNew_Click() {
     Form_Activate();
 }
 
-void frmMain::ShowMecaAtStart() {
-    meca_->exec();
+void frmMain::Start() {
+    if (CommandFileGiven == 0) meca_->exec();
     Form_Activate();
 }
 

@@ -44,8 +44,8 @@ public:
     void mnuMortorSelect_Click();
     void mnuCulcurate_Click();
 
-    // Asks for the start-up template when no file was named.
-    void ShowMecaAtStart();
+    // The start: the file of the command line is opened, or the mechanical system is asked.
+    void Start();
 
     frmMeca* Meca() const { return meca_; }
 

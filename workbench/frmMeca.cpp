@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "common/ui/SelectionLook.h"
 #include "core/MecaSelect.h"
 #include "core/Tables.h"
 #include "core/Templates.h"
@@ -94,17 +95,7 @@ void frmMeca::showEvent(QShowEvent* event) {
     picMachine[MecaTemplateNo]->setFocus();
 }
 
-void frmMeca::SetLook(int index, bool selected) {
-    QPalette p = lblMachine[index]->palette();
-    const QColor text = palette().color(QPalette::WindowText);
-    const QColor highlight = palette().color(QPalette::HighlightedText);
-    p.setColor(QPalette::Window, selected ? highlight : text);
-    p.setColor(QPalette::WindowText, selected ? text : highlight);
-    lblMachine[index]->setPalette(p);
-    picMachine[index]->setStyleSheet(selected ? QString("#%1 { border: 2px solid palette(highlight); }")
-                                                     .arg(picMachine[index]->objectName())
-                                              : QString());
-}
+void frmMeca::SetLook(int index, bool selected) { SelectionLook_Set(picMachine[index], lblMachine[index], selected, true); }
 
 void frmMeca::ShowShape2(bool visible) {
     Shape2->setProperty("keyboard", visible);

@@ -30,6 +30,6 @@ int main(int argc, char** argv) {
     frmMain main;
     splash.close();
     main.show();
-    if (CommandFileGiven == 0) main.ShowMecaAtStart();
+    main.Start();
     return QApplication::exec();
 }

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "base/Cp1252.h"
+#include "common/ui/ColumnFit.h"
 #include "core/Tables.h"
 #include "pattern/GridText.h"
 #include "pattern/PatarnCell.h"
@@ -73,8 +74,7 @@ PatarnGrid::PatarnGrid(QWidget* parent) : QTableWidget(kPatarnRows, 7, parent) {
     setObjectName("vsfPatarn");
     verticalHeader()->hide();
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
-    for (int c = 0; c < 7; ++c) setColumnWidth(c, kWidths[c] / 15);
-    horizontalHeader()->setStretchLastSection(true);
+    new ColumnFit(this, {std::begin(kWidths), std::end(kWidths)});
     setItemDelegate(new PatarnCellEditor(this));
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::AnyKeyPressed |
                     QAbstractItemView::EditKeyPressed);

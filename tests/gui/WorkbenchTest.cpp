@@ -50,7 +50,7 @@ protected:
             QTest::mouseClick(m->picMachine[picture], Qt::LeftButton);
             m->cmdOK->click();
         });
-        w.ShowMecaAtStart();
+        w.Start();
     }
 
     // Types a text into a cell of the pattern grid and commits it with Enter.
@@ -97,7 +97,7 @@ TEST_F(WorkbenchTest, CancelAtStartLeavesTheMotorAlone) {
     frmMain w;
     w.show();
     QTimer::singleShot(0, [&w] { w.Meca()->CmdCancel->click(); });
-    w.ShowMecaAtStart();
+    w.Start();
     EXPECT_EQ(ElementCount, 1);
     EXPECT_EQ(DocumentNamed, 0);
     EXPECT_EQ(DirtyFlag, 0);
@@ -117,7 +117,7 @@ TEST_F(WorkbenchTest, EnterOnAnEmptyPictureKeepsTheQuestionOpen) {
         EXPECT_TRUE(m->isVisible());
         QTest::keyClick(m->picMachine[10], Qt::Key_Escape);
     });
-    w.ShowMecaAtStart();
+    w.Start();
     EXPECT_EQ(ElementCount, 1);
 }
 
@@ -135,7 +135,7 @@ TEST_F(WorkbenchTest, ArrowKeysWrapOverThePictures) {
         EXPECT_EQ(MecaTemplateNo, 2);
         m->CmdCancel->click();
     });
-    w.ShowMecaAtStart();
+    w.Start();
 }
 
 TEST_F(WorkbenchTest, TypingThreeRowsFillsTheGridTheGraphsAndTheResults) {
