@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <sstream>
@@ -366,3 +367,26 @@ TEST_F(CliTest, MissingUnitFileIsNoErrorAndIsCreatedEmpty) {
 }
 
 }  // namespace
+
+// The verdict word that opens the line of a model number in the judge output.
+static std::string VerdictOf(const std::string& out, const std::string& model) {
+    for (const std::string& line : Lines(out)) {
+        const std::vector<std::string> w = Words(line);
+        if (w.size() >= 2 && w[1] == model) return w[0];
+    }
+    return "";
+}
+
+TEST_F(CliTest, JudgeOfAPushingBallscrewShowsEveryVerdictOverTheBundledCatalogue) {
+    const std::filesystem::path cli(TORVANE_CLI);
+    std::filesystem::copy_file(cli.parent_path() / "Series.db", appDir.File("Series.db"));
+    const std::string file = Quote(TORVANE_SOURCE_DIR "/tests/data/ballscrew-pushing-600N.AP2");
+    const CliRun compact = RunCli(appDir, "judge " + file + " --series 'TVM-A Compact' --model 'Low inertia'");
+    ASSERT_EQ(compact.code, 0) << compact.err;
+    EXPECT_EQ(VerdictOf(compact.out, "TVM-A020S3"), "NG");    // the 600 N push is beyond its torque
+    EXPECT_EQ(VerdictOf(compact.out, "TVM-A040S3"), "FAIR");  // effective torque above 80 % of rated
+    EXPECT_EQ(VerdictOf(compact.out, "TVM-A075S3"), "OK");
+    const CliRun earlier = RunCli(appDir, "judge " + file + " --series 'TVM-R Earlier models' --model 'Discontinued'");
+    ASSERT_EQ(earlier.code, 0) << earlier.err;
+    EXPECT_EQ(VerdictOf(earlier.out, "TVM-R150"), "-");       // data missing in the catalogue
+}
