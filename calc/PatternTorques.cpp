@@ -28,13 +28,14 @@ void Pattern_Torques(PatarnTable& rows, int16_t flag, double& Jm, double& mass) 
     const int16_t n = Patarn_CountRows(rows);
     const int16_t first = Element[1].ElementType;
     const bool special = first >= 41 && first <= 49;
+    const ChainTerms chain = special ? ChainTerms{} : Chain_Terms(static_cast<int16_t>(ElementCount - 1));
     for (int16_t i = 1; i <= n; ++i) {
         const double v1 = i == 1 ? 0 : rows[i - 1].Speed;
         const double v2 = rows[i].Speed;
         const double dt = rows[i].DeltaTime;
         double T = 0, R = 0;
         const int16_t status = special ? Special_Torque(Element[1], dt, v1, v2, mass, Jm, T, R)
-                                       : Interval_Torque(ElementCount - 1, dt, v1, v2, Jm, T, R);
+                                       : Interval_Torque(chain, dt, v1, v2, Jm, T, R);
         if (status != 0) {
             Mark_Row(rows, i);
             continue;

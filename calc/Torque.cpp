@@ -45,30 +45,38 @@ double Regenerated(double T, double v1, double v2, double dt) {
 
 }  // namespace
 
-int16_t Interval_Torque(int16_t n, double dt, double v1, double v2, double Jm, double& T, double& R) {
-    if (dt < kShortestInterval) return 1;
-    const double a = Acceleration(v1, v2, dt);
+ChainTerms Chain_Terms(int16_t n) {
     // koritu is the product of the efficiencies from the motor up to and
     // including element i; every term of element i is divided by it. The
     // motor's own inertia is free of it.
     double ratioOut = 1, koritu = 1;
-    double tin = 0, tout = 0, tex = 0, tfric = 0;
+    ChainTerms c;
     for (int i = 1; i <= n && i < kElementSlots; ++i) {
         const ParamRecord& p = Param[i];
         const double ratioIn = ratioOut;
         ratioOut = ratioOut * p.ratio;
         koritu = koritu * p.eff;
-        tin += Through(Sq(ratioIn) * p.inert0 * a, koritu);
-        tout += Through(Sq(ratioOut) * p.inert1 * a, koritu);
-        tex += Through(ratioOut * p.exforce, koritu);
-        tfric += Through(std::fabs(ratioOut * p.fric * p.inert1 * kGravity), koritu);
+        c.inertIn += Through(Sq(ratioIn) * p.inert0, koritu);
+        c.inertOut += Through(Sq(ratioOut) * p.inert1, koritu);
+        c.exforce += Through(ratioOut * p.exforce, koritu);
+        c.fric += Through(std::fabs(ratioOut * p.fric * p.inert1 * kGravity), koritu);
     }
-    TorqueAcc = a * Jm + tin + tout;
-    TorqueEx = tex;
-    TorqueFric = tfric;
-    T = With_Friction(TorqueAcc + TorqueEx, tfric, v1, v2);
+    return c;
+}
+
+int16_t Interval_Torque(const ChainTerms& c, double dt, double v1, double v2, double Jm, double& T, double& R) {
+    if (dt < kShortestInterval) return 1;
+    const double a = Acceleration(v1, v2, dt);
+    TorqueAcc = a * Jm + c.inertIn * a + c.inertOut * a;
+    TorqueEx = c.exforce;
+    TorqueFric = c.fric;
+    T = With_Friction(TorqueAcc + TorqueEx, c.fric, v1, v2);
     R = Regenerated(T, v1, v2, dt);
     return 0;
+}
+
+int16_t Interval_Torque(int16_t n, double dt, double v1, double v2, double Jm, double& T, double& R) {
+    return Interval_Torque(Chain_Terms(n), dt, v1, v2, Jm, T, R);
 }
 
 int16_t Special_Torque(const ElementRecord& element, double dt, double v1, double v2, double mass, double Jm,

@@ -54,6 +54,16 @@ double Load_Inertia(const ElementTable& elements, int16_t flag, double& mass);
 // Jm. 1 when dt is below 1e-6 s, and T and R are left alone.
 int16_t Interval_Torque(int16_t n, double dt, double v1, double v2, double Jm, double& T, double& R);
 
+// The parts of the interval torque that the chain alone decides, each term of
+// a component already divided by the efficiency up to it: the inertias at the
+// motor shaft per unit of acceleration, the external force and the friction.
+// A pattern works them out once for all its intervals.
+struct ChainTerms {
+    double inertIn = 0, inertOut = 0, exforce = 0, fric = 0;
+};
+ChainTerms Chain_Terms(int16_t n);
+int16_t Interval_Torque(const ChainTerms& chain, double dt, double v1, double v2, double Jm, double& T, double& R);
+
 // The same for a special mechanism carrying mass kg more; 1 also for a type
 // that is neither 41 nor 42.
 int16_t Special_Torque(const ElementRecord& element, double dt, double v1, double v2, double mass, double Jm,
