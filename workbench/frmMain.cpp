@@ -25,8 +25,10 @@
 #include "core/Document.h"
 #include "core/Tables.h"
 #include "pattern/PatarnRows.h"
+#include "pattern/Trapezoid.h"
 #include "pattern/ui/PatarnGrid.h"
 #include "pattern/ui/PatternGraph.h"
+#include "pattern/ui/frmPatarn.h"
 #include "workbench/ChainStrip.h"
 #include "workbench/QtSettingsStore.h"
 #include "workbench/ResultGrid.h"
@@ -51,6 +53,7 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
     BuildToolBar();
     setCentralWidget(BuildCentre());
     meca_ = new frmMeca([this] { Disp_Reset(); }, this);
+    patarn_ = new frmPatarn([this] { return vsfPatarn->GridRow(); }, [this] { Disp_Refresh(); }, this);
     resize(1180, 760);
     Window_Restore(this, kMainWindowKeys);
     Disp_Reset();
@@ -158,7 +161,7 @@ void frmMain::BuildMenus() {
     add(tools, "mnuElementSelect", "Component Selection(&I)", {}, nullptr);
     tools->addSeparator();
     add(tools, "mnuElementData", "Component Settings(&D)", {}, nullptr);
-    add(tools, "mnuPatarn", "Trapezoid Patterns(&T)", {}, nullptr);
+    add(tools, "mnuPatarn", "Trapezoid Patterns(&T)", {}, [this] { mnuPatarn_Click(); });
     tools->addSeparator();
     add(tools, "mnuPerSet", "Units(&U)...", {}, nullptr);
 
@@ -329,6 +332,14 @@ void frmMain::mnuFileNew_Click() {
 void frmMain::Start() {
     if (CommandFileGiven == 0) meca_->exec();
     Form_Activate();
+}
+
+// The focus leaves the grid first, so that an edit in progress is finished.
+void frmMain::mnuPatarn_Click() {
+    if (!Trapezoid_MayOpen(vsfPatarn->GridRow())) return;
+    patarn_->show();
+    patarn_->raise();
+    patarn_->activateWindow();
 }
 
 void frmMain::mnuCulcurate_Click() {

@@ -16,6 +16,7 @@ class PatarnGrid;
 class PatternGraph;
 class ResultGrid;
 class frmMeca;
+class frmPatarn;
 
 class frmMain : public QMainWindow {
     Q_OBJECT
@@ -43,11 +44,13 @@ public:
     bool mnuFileSaveAs_Click();
     void mnuMortorSelect_Click();
     void mnuCulcurate_Click();
+    void mnuPatarn_Click();
 
     // The start: the file of the command line is opened, or the mechanical system is asked.
     void Start();
 
     frmMeca* Meca() const { return meca_; }
+    frmPatarn* TrapezoidWindow() const { return patarn_; }
 
     ChainStrip* strip = nullptr;
     PatarnGrid* vsfPatarn = nullptr;
@@ -87,5 +90,6 @@ private:
     void SaveResults();
 
     frmMeca* meca_ = nullptr;
+    frmPatarn* patarn_ = nullptr;
     bool closingConfirmed_ = false;
 };
