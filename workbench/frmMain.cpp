@@ -32,7 +32,10 @@
 #include "workbench/ChainStrip.h"
 #include "workbench/QtSettingsStore.h"
 #include "workbench/ResultGrid.h"
+#include "workbench/frmAbout.h"
 #include "workbench/frmMeca.h"
+#include "workbench/frmUnit.h"
+#include "workbench/frmUser.h"
 
 namespace {
 
@@ -54,6 +57,7 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
     setCentralWidget(BuildCentre());
     meca_ = new frmMeca([this] { Disp_Reset(); }, this);
     patarn_ = new frmPatarn([this] { return vsfPatarn->GridRow(); }, [this] { Disp_Refresh(); }, this);
+    unit_ = new frmUnit([this] { Disp_Refresh(); }, this);
     resize(1180, 760);
     Window_Restore(this, kMainWindowKeys);
     Disp_Reset();
@@ -148,7 +152,7 @@ void frmMain::BuildMenus() {
     add(file, "mnuCulcurate", "Save Results", {}, [this] { mnuCulcurate_Click(); });
     file->addSeparator();
     add(file, "mnuFilePrint", "Print(&P)...", QKeySequence("Ctrl+P"), nullptr);
-    add(file, "mnu", "Administrator(&U)", {}, nullptr);
+    add(file, "mnu", "Administrator(&U)", {}, [this] { frmUser(this).exec(); });
     file->addSeparator();
     QAction* end = file->addAction("Exit(&X)");
     end->setObjectName("mnuEnd");
@@ -163,11 +167,11 @@ void frmMain::BuildMenus() {
     add(tools, "mnuElementData", "Component Settings(&D)", {}, nullptr);
     add(tools, "mnuPatarn", "Trapezoid Patterns(&T)", {}, [this] { mnuPatarn_Click(); });
     tools->addSeparator();
-    add(tools, "mnuPerSet", "Units(&U)...", {}, nullptr);
+    add(tools, "mnuPerSet", "Units(&U)...", {}, [this] { mnuPerSet_Click(); });
 
     QMenu* help = menuBar()->addMenu("Help(&H)");
     help->setObjectName("mnuHelp");
-    add(help, "mnuHelpAbout", "About this Program(&A)", {}, nullptr);
+    add(help, "mnuHelpAbout", "About this Program(&A)", {}, [this] { frmAbout(this).exec(); });
 
     mnuRight1 = new QMenu(this);
     mnuRight1->setObjectName("mnuRight1");
@@ -340,6 +344,12 @@ void frmMain::mnuPatarn_Click() {
     patarn_->show();
     patarn_->raise();
     patarn_->activateWindow();
+}
+
+void frmMain::mnuPerSet_Click() {
+    unit_->show();
+    unit_->raise();
+    unit_->activateWindow();
 }
 
 void frmMain::mnuCulcurate_Click() {

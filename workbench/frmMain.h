@@ -17,6 +17,7 @@ class PatternGraph;
 class ResultGrid;
 class frmMeca;
 class frmPatarn;
+class frmUnit;
 
 class frmMain : public QMainWindow {
     Q_OBJECT
@@ -45,12 +46,14 @@ public:
     void mnuMortorSelect_Click();
     void mnuCulcurate_Click();
     void mnuPatarn_Click();
+    void mnuPerSet_Click();
 
     // The start: the file of the command line is opened, or the mechanical system is asked.
     void Start();
 
     frmMeca* Meca() const { return meca_; }
     frmPatarn* TrapezoidWindow() const { return patarn_; }
+    frmUnit* UnitWindow() const { return unit_; }
 
     ChainStrip* strip = nullptr;
     PatarnGrid* vsfPatarn = nullptr;
@@ -91,5 +94,6 @@ private:
 
     frmMeca* meca_ = nullptr;
     frmPatarn* patarn_ = nullptr;
+    frmUnit* unit_ = nullptr;
     bool closingConfirmed_ = false;
 };

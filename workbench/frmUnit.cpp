@@ -1,0 +1,84 @@
+#include "workbench/frmUnit.h"
+
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "base/Cp1252.h"
+#include "workbench/QtSettingsStore.h"
+
+frmUnit::frmUnit(std::function<void()> applied, QWidget* parent) : QDialog(parent), applied_(std::move(applied)) {
+    setObjectName("frmUnit");
+    setWindowTitle("Unit Selections");
+    auto* frames = new QGridLayout;
+    for (int k = 0; k < kUnitCategories; ++k) {
+        auto* frame = new QGroupBox(kUnitCaptions[k], this);
+        auto* column = new QVBoxLayout(frame);
+        options[k] = new QButtonGroup(this);
+        for (int i = 0; i < Unit_Count(k); ++i) {
+            auto* option = new QRadioButton(QString::fromStdString(Cp1252_ToUtf8(UnitTable[k].Names[i])), frame);
+            options[k]->addButton(option, i);
+            column->addWidget(option);
+        }
+        column->addStretch();
+        connect(options[k], &QButtonGroup::idClicked, this, [this] { cmdReNew->setEnabled(true); });
+        frames->addWidget(frame, k / 4, k % 4);
+    }
+    frames->addWidget(new QLabel("(SI Units)", this), 2, 3, Qt::AlignBottom | Qt::AlignRight);
+
+    cmdStartSet = new QPushButton("Defaults", this);
+    cmdReNew = new QPushButton("Apply(&A)", this);
+    cmdOK = new QPushButton("OK(&Y)", this);
+    CmdCancel = new QPushButton("Cancel", this);
+    connect(cmdStartSet, &QPushButton::clicked, this, &frmUnit::cmdStartSet_Click);
+    connect(cmdReNew, &QPushButton::clicked, this, &frmUnit::cmdReNew_Click);
+    connect(cmdOK, &QPushButton::clicked, this, [this] {
+        cmdReNew_Click();
+        close();
+    });
+    connect(CmdCancel, &QPushButton::clicked, this, &QDialog::close);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdStartSet);
+    buttons->addStretch();
+    for (QPushButton* b : {cmdReNew, cmdOK, CmdCancel}) buttons->addWidget(b);
+    auto* main = new QVBoxLayout(this);
+    main->addLayout(frames);
+    main->addLayout(buttons);
+    Window_Restore(this, kUnitWindowKeys);
+}
+
+void frmUnit::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    Form_Load();
+}
+
+void frmUnit::closeEvent(QCloseEvent* event) {
+    Window_Save(this, kUnitWindowKeys);
+    QDialog::closeEvent(event);
+}
+
+void frmUnit::Form_Load() {
+    Show_Picks(Unit_Picks());
+    cmdReNew->setEnabled(false);
+}
+
+void frmUnit::Show_Picks(const UnitPicks& picks) {
+    for (int k = 0; k < kUnitCategories; ++k)
+        if (QAbstractButton* b = options[k]->button(picks[k])) b->setChecked(true);
+}
+
+void frmUnit::cmdStartSet_Click() { Show_Picks(kUnitDefaultSel); }
+
+void frmUnit::cmdReNew_Click() {
+    UnitPicks picks{};
+    for (int k = 0; k < kUnitCategories; ++k) picks[k] = static_cast<int16_t>(std::max(0, options[k]->checkedId()));
+    Unit_Apply(picks);
+    if (applied_) applied_();
+    cmdReNew->setEnabled(false);
+}
