@@ -36,6 +36,7 @@ frmUnit::frmUnit(std::function<void()> applied, QWidget* parent) : QDialog(paren
     cmdReNew = new QPushButton("Apply(&A)", this);
     cmdOK = new QPushButton("OK(&Y)", this);
     CmdCancel = new QPushButton("Cancel", this);
+    cmdOK->setDefault(true);
     connect(cmdStartSet, &QPushButton::clicked, this, &frmUnit::cmdStartSet_Click);
     connect(cmdReNew, &QPushButton::clicked, this, &frmUnit::cmdReNew_Click);
     connect(cmdOK, &QPushButton::clicked, this, [this] {
