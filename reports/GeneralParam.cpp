@@ -1,5 +1,6 @@
 #include "reports/GeneralParam.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 
@@ -68,6 +69,8 @@ void Print_Formula(const std::string& item, int k, int16_t type, int16_t index, 
         Results_Print(Results_ValueColumn(item), "=" + NumberText(value), true);
 }
 
+constexpr int kMostItems = 99;
+
 }  // namespace
 
 int16_t Results_GeneralParam(int16_t type, int16_t index) {
@@ -76,7 +79,8 @@ int16_t Results_GeneralParam(int16_t type, int16_t index) {
     const std::string path = ParamIni_Path();
     if (!std::filesystem::exists(path)) History_Append(History_Path(), "File(Setting) was not found");
     const std::string section = std::to_string(type);
-    const int count = ParamIni_Int(path, section, "Set0");
+    // A block never holds more items than this; a broken count reads no further.
+    const int count = std::min(ParamIni_Int(path, section, "Set0"), kMostItems);
     ParamRecord param{};
     Param_Get(index, param);
     const ElementRecord& element = Element[index];

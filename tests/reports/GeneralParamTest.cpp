@@ -178,3 +178,11 @@ TEST_F(GeneralParamTest, EveryTypeOfTheCatalogueHasItsFormulas) {
     }
     EXPECT_EQ(ReadFile(History_Path()), "");
 }
+
+TEST_F(GeneralParamTest, ABrokenCountReadsNoFurtherThanNinetyNineItems) {
+    WriteParamIni("[1]\nSet0=2147483647\nSet1=ratio=[0]\n");
+    Chain({1});
+    Culcurate_All();
+    Block(1);
+    EXPECT_EQ(LogTexts(History_SiblingPath()).size(), 98u);  // items 2 to 99 are missing
+}
