@@ -1,0 +1,121 @@
+// A catalogue row as a maker's data may hold it: every field of a series, a
+// model group, a motor, a driver and a driver type comes from the input, as
+// a number, a text or blank. The whole wizard runs over it (lists, motor
+// grid, judgement, "Next >", the drivers, "Finish") and may end only with
+// a message or a RuntimeError.
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "base/MsgBox.h"
+#include "base/Numeric.h"
+#include "base/RuntimeError.h"
+#include "calc/mdlCulcurate.h"
+#include "core/Document.h"
+#include "core/Tables.h"
+#include "selection/DriverPage.h"
+#include "selection/MotorPage.h"
+
+namespace {
+
+constexpr const char* kRows[] = {
+    "INSERT INTO MotorSeriesMaster VALUES (?, 1, 1)",
+    "INSERT INTO ModelMaster VALUES (1, ?, 1)",
+    "INSERT INTO MotorTable VALUES (1, 1, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+    "INSERT INTO MotorTable VALUES (1, 1, 'SECOND', 400, 3000, 2.6e-5, 1.27, 3.8, ?, 1.5, 0, ?)",
+    "INSERT INTO DriverTable VALUES (?, ?, ?, ?, ?, ?, ?)",
+    "INSERT INTO MotorDriverTable VALUES (?, ?)",
+    "INSERT INTO MotorDriverTable VALUES ('SECOND', ?)",
+    "INSERT INTO DriverTypeMaster VALUES (?, ?, ?, ?, ?)",
+};
+
+// The fields of the input, one per line.
+std::vector<std::string> Fields(const uint8_t* data, size_t size) {
+    std::vector<std::string> fields(1);
+    for (size_t i = 0; i < size; ++i) {
+        if (data[i] == '\n') fields.emplace_back();
+        else fields.back() += static_cast<char>(data[i]);
+    }
+    return fields;
+}
+
+// A field goes in blank when empty, as a number when it reads as one, else as a text.
+void Bind(sqlite3_stmt* statement, int column, const std::string& field) {
+    if (field.empty()) sqlite3_bind_null(statement, column);
+    else if (IsNumeric(field)) sqlite3_bind_double(statement, column, Val(field));
+    else sqlite3_bind_text(statement, column, field.c_str(), static_cast<int>(field.size()), SQLITE_TRANSIENT);
+}
+
+bool Build(const std::string& path, const std::vector<std::string>& fields) {
+    std::filesystem::remove(path);
+    std::ifstream schema(TORVANE_SOURCE_DIR "/data/catalogue/10_schema.sql");
+    // A throwaway file: no journal, no waiting for the disk.
+    const std::string sql = "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; " +
+                            std::string(std::istreambuf_iterator<char>(schema), std::istreambuf_iterator<char>());
+    sqlite3* db = nullptr;
+    bool ok = sqlite3_open(path.c_str(), &db) == SQLITE_OK &&
+              sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
+    size_t next = 0;
+    for (const char* row : kRows) {
+        sqlite3_stmt* statement = nullptr;
+        ok = ok && sqlite3_prepare_v2(db, row, -1, &statement, nullptr) == SQLITE_OK;
+        for (int c = 1; ok && c <= sqlite3_bind_parameter_count(statement); ++c)
+            Bind(statement, c, next < fields.size() ? fields[next++] : std::string());
+        ok = ok && sqlite3_step(statement) == SQLITE_DONE;
+        sqlite3_finalize(statement);
+    }
+    sqlite3_close(db);
+    return ok;
+}
+
+void Run_Wizard() {
+    MotorPage motors;
+    List1_Load(motors);
+    if (motors.lstS.empty()) return;
+    lstS_Click(motors, 0);
+    if (motors.lstM.empty()) return;
+    lstM_Click(motors, 0);
+    cmdJudge_Click(motors);
+    for (int row = 2; row < 2 + MotorRowCount; ++row) {
+        vsfData_RowChange(motors, row);
+        DriverPage drivers;
+        if (!cmdNext_Click(motors, drivers)) continue;
+        List2_Activate(drivers);
+        drivers.Row = 1;
+        cmdDecide_Click(motors, drivers);
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    static const std::string dir = [] {
+        std::string d = (std::filesystem::temp_directory_path() / "torvane-fuzz-XXXXXX").string();
+        if (mkdtemp(d.data()) == nullptr) std::abort();
+        MsgBox_SetHandler([](const MsgRequest&) { return MsgAnswer::OK; });
+        return d;
+    }();
+    AppPath = dir;
+    if (!Build(dir + "/Series.db", Fields(data, size))) return 0;
+    Template_Fill(1, true);
+    ElementCount = MecaTemplateCount[1];
+    MotorSelected = 0;
+    Patarn = {};
+    Patarn[1] = {0.1, 0.1, 3000, 0, 0, 0, 0, 3};
+    Patarn[2] = {0.6, 0.5, 3000, 0, 0, 0, 0, 3};
+    Patarn[3] = {0.7, 0.1, 0, 0, 0, 0, 0, 3};
+    PatternRowCount = 3;
+    Culcurate_All();
+    try {
+        Run_Wizard();
+    } catch (const RuntimeError&) {
+    }
+    List1_Unload();
+    return 0;
+}
