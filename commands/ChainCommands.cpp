@@ -2,6 +2,7 @@
 
 #include "base/MsgBox.h"
 #include "calc/mdlCulcurate.h"
+#include "core/Catalogue.h"
 #include "core/Chain.h"
 #include "core/Tables.h"
 
@@ -16,6 +17,21 @@ bool Chain_Drop(int16_t p, int16_t type) {
     DirtyFlag = 1;
     if (r == 0) Chain_OpenSlot(p);
     Chain_SetSlot(p);
+    Culcurate_All();
+    return true;
+}
+
+bool Chain_Append(int16_t type) {
+    DragType = type;
+    if (Chain_PlaceCheck(ElementCount) == -1) {
+        MsgBox("Cannot be connected.", "Connection", MsgIcon::Exclamation);
+        return false;
+    }
+    DirtyFlag = 1;
+    const int16_t last = static_cast<int16_t>(ElementCount - 1);
+    Element[last].ElementType = DragType;
+    Item_Defaults(DragType, Element[last].Item);
+    SelectedElement = last;
     Culcurate_All();
     return true;
 }

@@ -8,5 +8,9 @@
 // changed.
 bool Chain_Drop(int16_t p, int16_t type);
 
+// The palette's double click: a component of the type at the end of the
+// chain. True when it was added; "Cannot be connected." otherwise.
+bool Chain_Append(int16_t type);
+
 // Delete Component: the selected element. True when the chain changed.
 bool Chain_Delete();
