@@ -264,3 +264,36 @@ TEST_F(WorkbenchTest, SaveAsNewAndOpenRoundTripThroughTheMenus) {
     EXPECT_EQ(w.strip->lblElement[2]->text(), "H ballscrew");
     EXPECT_EQ(Cell(w, 2, 1), "0.100");
 }
+
+TEST_F(WorkbenchTest, DeleteOnAnEmptyRowRemovesItFromTheTableButLeavesTheGridUntilTheNextEdit) {
+    frmMain w;
+    StartWith(w, 1);
+    Type(w, 2, 1, "0.1");
+    Type(w, 2, 3, "3000");
+    Patarn[3] = Patarn[1];  // record 2 stays empty, record 3 is complete
+    w.vsfPatarn->Disp_Patarn();
+    const QString shownBelow = Cell(w, 4, 3);
+    ASSERT_FALSE(shownBelow.isEmpty());
+    w.vsfPatarn->setCurrentCell(1, 1);  // grid row 3, the empty record 2
+    QTest::keyClick(w.vsfPatarn, Qt::Key_Delete);
+    EXPECT_EQ(Patarn[2].Speed, 3000);  // record 3 moved up
+    EXPECT_EQ(Patarn[3].RowState, 0);
+    EXPECT_EQ(Cell(w, 3, 3), "");            // the grid still shows the old rows
+    EXPECT_EQ(Cell(w, 4, 3), shownBelow);
+    EXPECT_TRUE(msg.Seen().empty());
+}
+
+TEST_F(WorkbenchTest, InsertOpensABlankRowAndLeavesTheDocumentUnchanged) {
+    frmMain w;
+    StartWith(w, 1);
+    Type(w, 2, 2, "0.1");
+    Type(w, 2, 3, "3000");
+    DirtyFlag = 0;
+    w.vsfPatarn->setCurrentCell(0, 1);
+    w.mnuRight2->findChild<QAction*>("mnuInsert")->trigger();
+    EXPECT_EQ(Patarn[1].RowState, 0);
+    EXPECT_EQ(Patarn[2].Speed, 3000);
+    EXPECT_EQ(Cell(w, 2, 3), "");
+    EXPECT_EQ(Cell(w, 3, 3), "3000.0");
+    EXPECT_EQ(DirtyFlag, 0);
+}
