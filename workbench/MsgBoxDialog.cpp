@@ -4,6 +4,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "workbench/frmInsertQ.h"
+
 namespace {
 
 QMessageBox::Icon ToIcon(MsgIcon icon) {
@@ -19,6 +21,7 @@ QMessageBox::Icon ToIcon(MsgIcon icon) {
 }  // namespace
 
 MsgAnswer MsgBox_DialogHandler(const MsgRequest& request) {
+    if (request.buttons == MsgButtons::InsertOverwriteCancel) return frmInsertQ::Ask(QApplication::activeWindow());
     QMessageBox box(ToIcon(request.icon), QString::fromStdString(request.title.empty() ? "Torvane" : request.title),
                     QString::fromStdString(request.text), QMessageBox::NoButton, QApplication::activeWindow());
     std::vector<std::pair<QAbstractButton*, MsgAnswer>> buttons;
@@ -40,11 +43,7 @@ MsgAnswer MsgBox_DialogHandler(const MsgRequest& request) {
             add("&No", QMessageBox::NoRole, MsgAnswer::No);
             add("Cancel", QMessageBox::RejectRole, MsgAnswer::Cancel);
             break;
-        case MsgButtons::InsertOverwriteCancel:
-            add("Insert", QMessageBox::AcceptRole, MsgAnswer::Insert);
-            add("Overwrite", QMessageBox::AcceptRole, MsgAnswer::Overwrite);
-            add("Cancel", QMessageBox::RejectRole, MsgAnswer::Cancel);
-            break;
+        case MsgButtons::InsertOverwriteCancel: break;  // frmInsertQ asks
     }
     box.setDefaultButton(static_cast<QPushButton*>(buttons.front().first));
     box.exec();

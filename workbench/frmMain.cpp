@@ -33,6 +33,8 @@
 #include "workbench/QtSettingsStore.h"
 #include "workbench/ResultGrid.h"
 #include "workbench/frmAbout.h"
+#include "workbench/frmInfobox.h"
+#include "workbench/frmItem.h"
 #include "workbench/frmMeca.h"
 #include "workbench/frmUnit.h"
 #include "workbench/frmUser.h"
@@ -55,7 +57,19 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
     BuildMenus();
     BuildToolBar();
     setCentralWidget(BuildCentre());
-    meca_ = new frmMeca([this] { Disp_Reset(); }, this);
+    infobox_ = new frmInfobox([this] { Disp_Refresh(); }, [this] { Strip_ShowSelected(); }, this);
+    ItemSeams seams;
+    seams.refresh = [this] { Disp_Refresh(); };
+    seams.deleteSelected = [this] { RunCommand([this] { mnuDelete1_Click(); }); };
+    seams.selectInList = [this](int index) { infobox_->cboElement_Select(index); };
+    item_ = new frmItem(std::move(seams), this);
+    meca_ = new frmMeca(
+        [this] {
+            Disp_Reset();
+            infobox_->show();
+            if (MecaResult == 2) item_->show();
+        },
+        this);
     patarn_ = new frmPatarn([this] { return vsfPatarn->GridRow(); }, [this] { Disp_Refresh(); }, this);
     unit_ = new frmUnit([this] { Disp_Refresh(); }, this);
     resize(1180, 760);
@@ -162,9 +176,11 @@ void frmMain::BuildMenus() {
     tools->setObjectName("mnuEdit");
     add(tools, "mnuMortorSelect", "Motor Selection(&S)", {}, nullptr);
     tools->addSeparator();
-    add(tools, "mnuElementSelect", "Component Selection(&I)", {}, nullptr);
+    add(tools, "mnuElementSelect", "Component Selection(&I)", {}, [this] { mnuElementSelect_Click(); });
     tools->addSeparator();
-    add(tools, "mnuElementData", "Component Settings(&D)", {}, nullptr);
+    QAction* data = tools->addAction("Component Settings(&D)");
+    data->setObjectName("mnuElementData");  // leaves the focus where it is, so an open edit stays open
+    connect(data, &QAction::triggered, this, [this] { mnuElementData_Click(); });
     add(tools, "mnuPatarn", "Trapezoid Patterns(&T)", {}, [this] { mnuPatarn_Click(); });
     tools->addSeparator();
     add(tools, "mnuPerSet", "Units(&U)...", {}, [this] { mnuPerSet_Click(); });
@@ -236,6 +252,7 @@ void frmMain::Disp_Reset() {
     strip->ClearLooks();
     setWindowTitle("Torvane-[Create application]");
     strip->HScroll1->setValue(0);
+    infobox_->Infobox_Clear();
     vsfPatarn->scrollToTop();
     vsfPatarn->setCurrentCell(0, 1);
 }
@@ -256,11 +273,12 @@ void frmMain::Disp_Refresh() {
         lblMotor->setText(QString::fromStdString(MotorModelText.Utf8()));
         lblDriver->setText(QString::fromStdString(DriverModelText.Utf8()));
     }
+    infobox_->Disp_Selected();
     Disp_ElementList();
     Disp_Strip(strip->HScroll1->value());
 }
 
-void frmMain::Disp_ElementList() {}
+void frmMain::Disp_ElementList() { infobox_->Disp_ElementList(); }
 
 void frmMain::Disp_Strip(int first) {
     strip->Disp_Strip(first);
@@ -289,6 +307,17 @@ void frmMain::imgElement_Click(int index) {
         SelectedElement = 0;
     }
     HScroll1_Change(FirstVisible);
+    if (SelectedElement != 0) infobox_->cboElement_Select(SelectedElement - 1);
+    infobox_->show();
+}
+
+// The selected element comes into the visible slots of the strip, highlighted.
+void frmMain::Strip_ShowSelected() {
+    int first = strip->HScroll1->value();
+    if (SelectedElement < first) first = SelectedElement;
+    if (SelectedElement > first + 7) first = SelectedElement - 7;
+    strip->HScroll1->setValue(first);
+    HScroll1_Change(first);
 }
 
 void frmMain::imgElement_RightClick(int index, QPoint global) {
@@ -311,6 +340,7 @@ void frmMain::Picture1_KeyDown(int key) {
         default: return;
     }
     HScroll1_Change(strip->HScroll1->value());
+    if (SelectedElement != 0) infobox_->cboElement_Select(SelectedElement - 1);
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
@@ -344,6 +374,17 @@ void frmMain::mnuPatarn_Click() {
     patarn_->show();
     patarn_->raise();
     patarn_->activateWindow();
+}
+
+void frmMain::mnuElementSelect_Click() {
+    item_->show();
+    item_->raise();
+    item_->activateWindow();
+}
+
+void frmMain::mnuElementData_Click() {
+    infobox_->show();
+    infobox_->raise();
 }
 
 void frmMain::mnuPerSet_Click() {
@@ -395,6 +436,8 @@ void frmMain::closeEvent(QCloseEvent* event) {
         return;
     }
     StorePosition();
+    infobox_->Unload();
+    item_->Unload();
     meca_->hide();
     event->accept();
 }
@@ -403,6 +446,7 @@ void frmMain::imgElement_DragDrop(int index, int16_t type) {
     const auto p = static_cast<int16_t>(index + FirstVisible);
     if (!Chain_Drop(p, type)) return;
     Disp_Refresh();
+    if (item_->isVisible()) item_->activateWindow();
 }
 
 void frmMain::mnuDelete1_Click() {

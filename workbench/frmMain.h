@@ -15,6 +15,8 @@ class ChainStrip;
 class PatarnGrid;
 class PatternGraph;
 class ResultGrid;
+class frmInfobox;
+class frmItem;
 class frmMeca;
 class frmPatarn;
 class frmUnit;
@@ -47,6 +49,8 @@ public:
     void mnuCulcurate_Click();
     void mnuPatarn_Click();
     void mnuPerSet_Click();
+    void mnuElementSelect_Click();
+    void mnuElementData_Click();
 
     // The start: the file of the command line is opened, or the mechanical system is asked.
     void Start();
@@ -54,6 +58,8 @@ public:
     frmMeca* Meca() const { return meca_; }
     frmPatarn* TrapezoidWindow() const { return patarn_; }
     frmUnit* UnitWindow() const { return unit_; }
+    frmItem* ItemWindow() const { return item_; }
+    frmInfobox* Infobox() const { return infobox_; }
 
     ChainStrip* strip = nullptr;
     PatarnGrid* vsfPatarn = nullptr;
@@ -81,6 +87,7 @@ private:
     QWidget* BuildCentre();
     void Form_Activate();
     void HScroll1_Change(int value);
+    void Strip_ShowSelected();
     void imgElement_DragDrop(int index, int16_t type);
     void imgElement_RightClick(int index, QPoint global);
     void Picture1_KeyDown(int key);
@@ -95,5 +102,7 @@ private:
     frmMeca* meca_ = nullptr;
     frmPatarn* patarn_ = nullptr;
     frmUnit* unit_ = nullptr;
+    frmItem* item_ = nullptr;
+    frmInfobox* infobox_ = nullptr;
     bool closingConfirmed_ = false;
 };

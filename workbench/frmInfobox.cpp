@@ -1,0 +1,371 @@
+#include "workbench/frmInfobox.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyledItemDelegate>
+#include <QTableWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "base/Cp1252.h"
+#include "base/MsgBox.h"
+#include "base/RuntimeError.h"
+#include "commands/ItemCommands.h"
+#include "common/ui/ColumnFit.h"
+#include "core/Catalogue.h"
+#include "core/DirectInput.h"
+#include "core/ItemEdit.h"
+#include "core/ItemGrid.h"
+#include "core/Tables.h"
+#include "workbench/QtSettingsStore.h"
+
+namespace {
+
+constexpr int kWidths[3] = {1600, 1300, 1170};
+const QColor kGrey(128, 128, 128);  // 8421504
+
+QString Text(const std::string& cp1252) { return QString::fromStdString(Cp1252_ToUtf8(cp1252)); }
+
+bool KeyPasses(const QKeyEvent* key) {
+    const QString t = key->text();
+    return t.isEmpty() || !t.at(0).isPrint() || ItemEdit_KeyAllowed(t.at(0).unicode());
+}
+
+// Drops the keys a setting cannot hold.
+class KeyFilter : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress && !KeyPasses(static_cast<QKeyEvent*>(event))) return true;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+// The grid: Down on the last row wraps to the first, Up on the first to the last.
+class ElementGrid : public QTableWidget {
+public:
+    ElementGrid(frmInfobox* box, QWidget* parent) : QTableWidget(kItemGridRows, 3, parent), box_(box) {}
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (state() != QAbstractItemView::EditingState) {
+            if (event->key() == Qt::Key_Down && currentRow() == rowCount() - 1) {
+                setCurrentCell(0, currentColumn());
+                return;
+            }
+            if (event->key() == Qt::Key_Up && currentRow() == 0) {
+                setCurrentCell(rowCount() - 1, currentColumn());
+                return;
+            }
+            if (!KeyPasses(event)) return;
+        }
+        QTableWidget::keyPressEvent(event);
+        box_->LastGridRow = static_cast<int16_t>(currentRow() + 1);
+    }
+
+private:
+    frmInfobox* box_;
+};
+
+}  // namespace
+
+// The cell editor of column 2: refuses "--" rows, offers the materials in a
+// density row, filters the keys, and stores through ValidateEdit.
+class InfoboxCellEditor : public QStyledItemDelegate {
+public:
+    explicit InfoboxCellEditor(frmInfobox* box) : QStyledItemDelegate(box->vsfElement), box_(box) {}
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const override {
+        const int gridRow = index.row() + 1;
+        if (index.column() != 2 || SelectedElement < 1 || SelectedElement >= ElementCount) return nullptr;
+        const ElementRecord& e = Element[SelectedElement];
+        if (!ItemEdit_MayOpen(e, gridRow, box_->CellText(gridRow, 2).toStdString())) return nullptr;
+        QLineEdit* edit = nullptr;
+        if (Item_IsDensityRow(e.Item[gridRow - 1]) && e.InputMode == 0) {
+            auto* combo = new QComboBox(parent);
+            combo->setObjectName("cboMaterial");
+            combo->setEditable(true);
+            combo->setInsertPolicy(QComboBox::NoInsert);
+            combo->addItems(QString::fromLatin1(kMaterialList.data(), kMaterialList.size()).split('|', Qt::SkipEmptyParts));
+            combo->setCurrentIndex(-1);
+            edit = combo->lineEdit();
+            edit->installEventFilter(new KeyFilter(edit));
+            return combo;
+        }
+        edit = new QLineEdit(parent);
+        edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        edit->installEventFilter(new KeyFilter(edit));
+        return edit;
+    }
+
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+        const QString text = index.data().toString();
+        if (auto* combo = qobject_cast<QComboBox*>(editor)) combo->setEditText(text);
+        else static_cast<QLineEdit*>(editor)->setText(text);
+    }
+
+    void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const override {
+        if (box_->InternalEdit == 1) return;
+        auto* combo = qobject_cast<QComboBox*>(editor);
+        const QString typed = combo ? combo->currentText() : static_cast<QLineEdit*>(editor)->text();
+        const int gridRow = index.row() + 1;
+        if (typed == index.data().toString()) return;  // left as it was
+        QString text = typed;
+        if (!box_->AfterEdit(gridRow, text)) {
+            QTimer::singleShot(0, box_, [b = box_, gridRow, typed] {
+                b->vsfElement->setCurrentCell(gridRow - 1, 2);
+                b->vsfElement->editItem(b->vsfElement->item(gridRow - 1, 2));
+                QWidget* w = b->vsfElement->indexWidget(b->vsfElement->currentIndex());
+                if (auto* c = qobject_cast<QComboBox*>(w)) c->setEditText(typed);
+                else if (auto* e = qobject_cast<QLineEdit*>(w)) e->setText(typed);
+            });
+        }
+    }
+
+private:
+    frmInfobox* box_;
+};
+
+frmInfobox::frmInfobox(std::function<void()> refresh, std::function<void()> selected, QWidget* parent)
+    : QWidget(parent, Qt::Tool), refresh_(std::move(refresh)), selected_(std::move(selected)) {
+    setObjectName("frmInfobox");
+    setWindowTitle("Component Settings");
+
+    cboElement = new QComboBox(this);
+    cboElement->setObjectName("cboElement");
+    connect(cboElement, &QComboBox::activated, this, [this] { cboElement_click(); });
+
+    vsfElement = new ElementGrid(this, this);
+    vsfElement->setObjectName("vsfElement");
+    vsfElement->verticalHeader()->hide();
+    vsfElement->setHorizontalHeaderLabels({"Item", "Unit", "Setting"});
+    vsfElement->setSelectionMode(QAbstractItemView::SingleSelection);
+    vsfElement->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::AnyKeyPressed |
+                                QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
+    vsfElement->setItemDelegate(new InfoboxCellEditor(this));
+    new ColumnFit(vsfElement, {std::begin(kWidths), std::end(kWidths)});
+    for (int r = 0; r < kItemGridRows; ++r)
+        for (int c = 0; c < 3; ++c) {
+            auto* it = new QTableWidgetItem;
+            it->setFlags(c == 2 ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable
+                                : Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+            if (c == 2) it->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            vsfElement->setItem(r, c, it);
+        }
+    vsfElement->resizeRowsToContents();
+    const int height = vsfElement->horizontalHeader()->sizeHint().height() +
+                       kItemGridRows * vsfElement->verticalHeader()->defaultSectionSize() + 4;
+    vsfElement->setMinimumHeight(height);
+    connect(vsfElement, &QTableWidget::currentCellChanged, this,
+            [this](int row) { LastGridRow = static_cast<int16_t>(row + 1); });
+
+    Check1 = new QCheckBox("Direct inertia input", this);
+    Check1->setObjectName("Check1");
+    Check2 = new QCheckBox("Direct mass input", this);
+    Check2->setObjectName("Check2");
+    connect(Check1, &QCheckBox::clicked, this, [this] { Check1_Click(); });
+    connect(Check2, &QCheckBox::clicked, this, [this] { Check2_Click(); });
+    Check1->setEnabled(false);
+    Check2->setEnabled(false);
+
+    auto* checks = new QHBoxLayout;
+    checks->addWidget(Check1);
+    checks->addWidget(Check2);
+    checks->addStretch();
+    auto* main = new QVBoxLayout(this);
+    main->addWidget(cboElement);
+    main->addWidget(vsfElement, 1);
+    main->addLayout(checks);
+    resize(4070 / 15 + 40, height + 90);
+    Window_Restore(this, kInfoboxWindowKeys);
+}
+
+int frmInfobox::GridRow() const { return vsfElement->currentRow() + 1; }
+
+QString frmInfobox::CellText(int gridRow, int col) const {
+    const QTableWidgetItem* it = vsfElement->item(gridRow - 1, col);
+    return it ? it->text() : QString();
+}
+
+bool frmInfobox::RowGrey(int gridRow) const {
+    const QTableWidgetItem* it = vsfElement->item(gridRow - 1, 2);
+    return it && it->foreground().color() == kGrey;
+}
+
+void frmInfobox::Infobox_Clear() {
+    {
+        const QSignalBlocker block(cboElement);
+        cboElement->clear();
+    }
+    Grid_Clear();
+}
+
+void frmInfobox::Grid_Clear() {
+    InternalEdit = 1;
+    for (int r = 1; r <= kItemGridRows; ++r) {
+        for (int c = 0; c < 3; ++c) vsfElement->item(r - 1, c)->setText(QString());
+        Restore_Row(r);
+    }
+    Check1->setChecked(false);
+    Check2->setChecked(false);
+    Check1->setEnabled(false);
+    Check2->setEnabled(false);
+    vsfElement->setCurrentCell(0, 2);
+    InternalEdit = 0;
+}
+
+void frmInfobox::Restore_Row(int gridRow) {
+    vsfElement->item(gridRow - 1, 2)->setForeground(palette().color(QPalette::WindowText));
+}
+
+void frmInfobox::Infobox_Fill(int16_t element) {
+    if (element < 0 || element >= kElementSlots) return;
+    InternalEdit = 1;
+    for (int r = 1; r <= kItemGridRows; ++r) {
+        const ItemGridRow row = Item_GridRow(Element[element], r);
+        vsfElement->item(r - 1, 0)->setText(Text(row.name));
+        vsfElement->item(r - 1, 1)->setText(Text(row.unit));
+        vsfElement->item(r - 1, 2)->setText(Text(row.setting));
+        if (row.grey) vsfElement->item(r - 1, 2)->setForeground(kGrey);
+        else Restore_Row(r);
+    }
+    // An edit being stored keeps its cell, so that the user goes on from there.
+    if (!storing_) vsfElement->setCurrentCell(0, 2);
+    InternalEdit = 0;
+}
+
+void frmInfobox::Disp_ElementList() {
+    const QSignalBlocker block(cboElement);
+    cboElement->clear();
+    for (int i = 1; i < ElementCount; ++i)
+        cboElement->addItem(QString("%1.").arg(i) + Text(std::string(Type_Label(Element[i].ElementType))));
+    if (SelectedElement >= 1 && SelectedElement < ElementCount) {
+        cboElement->setCurrentIndex(SelectedElement - 1);
+    } else {
+        cboElement->setCurrentIndex(-1);
+        Grid_Clear();
+    }
+}
+
+void frmInfobox::Disp_Selected() {
+    if (SelectedElement < 1 || SelectedElement >= ElementCount) return;
+    const ElementRecord& e = Element[SelectedElement];
+    Check_Set(e.ElementType, e.InputMode);
+    Item_Format(Element[SelectedElement]);
+    Infobox_Fill(SelectedElement);
+}
+
+void frmInfobox::cboElement_Select(int index) {
+    if (cboElement->count() != ElementCount - 1) Disp_ElementList();
+    if (index < 0 || index >= cboElement->count()) return;
+    {
+        const QSignalBlocker block(cboElement);
+        cboElement->setCurrentIndex(index);
+    }
+    cboElement_click();
+}
+
+void frmInfobox::cboElement_click() {
+    const int index = cboElement->currentIndex();
+    if (index < 0) return;
+    try {
+        Item_Select(static_cast<int16_t>(index + 1));
+    } catch (const RuntimeError& e) {
+        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
+    }
+    if (selected_) selected_();
+    const ElementRecord& e = Element[SelectedElement];
+    Check_Set(e.ElementType, e.InputMode);
+    Infobox_Fill(SelectedElement);
+}
+
+void frmInfobox::Check_Set(int16_t type, int16_t mode) {
+    DirectChecks checks{Check1->isChecked(), Check2->isChecked(), Check1->isEnabled(), Check2->isEnabled()};
+    if (!::Check_Set(type, mode, checks)) return;
+    Check1->setChecked(checks.value1);
+    Check2->setChecked(checks.value2);
+    Check1->setEnabled(checks.enabled1);
+    Check2->setEnabled(checks.enabled2);
+}
+
+void frmInfobox::Check1_Click() {
+    if (SelectedElement < 1 || SelectedElement >= ElementCount) return;
+    vsfElement->setUpdatesEnabled(false);
+    int row = GridRow();
+    const bool on = Check1->isChecked();
+    const bool wasDirect = Element[SelectedElement].InputMode == 1;
+    try {
+        Item_DirectInertia(SelectedElement, on);
+    } catch (const RuntimeError& e) {
+        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
+    }
+    if (on) {
+        Check2->setEnabled(false);
+        row = kItemGridRows;
+    } else if (wasDirect) {
+        for (int r = 1; r <= kItemGridRows - 1; ++r) Restore_Row(r);
+        Check2->setEnabled(true);
+    }
+    if (refresh_) refresh_();
+    vsfElement->setCurrentCell(row - 1, 2);
+    vsfElement->setUpdatesEnabled(true);
+}
+
+void frmInfobox::Check2_Click() {
+    if (SelectedElement < 1 || SelectedElement >= ElementCount) return;
+    vsfElement->setUpdatesEnabled(false);
+    const bool on = Check2->isChecked();
+    const bool wasDirect = Element[SelectedElement].InputMode == 2;
+    try {
+        Item_DirectMass(SelectedElement, on);
+    } catch (const RuntimeError& e) {
+        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
+    }
+    if (on) {
+        Check1->setEnabled(false);
+    } else if (wasDirect) {
+        for (int r = 1; r <= kItemGridRows - 1; ++r) Restore_Row(r);
+        if (Element[SelectedElement].ElementType == 5) Check1->setEnabled(true);
+    }
+    if (refresh_) refresh_();
+    vsfElement->setCurrentCell(0, 2);
+    vsfElement->setUpdatesEnabled(true);
+}
+
+bool frmInfobox::AfterEdit(int gridRow, QString& text) {
+    std::string t = Utf8_ToCp1252(text.toStdString());
+    bool stored = false;
+    try {
+        stored = Item_Edit(SelectedElement, gridRow, t, Check1->isChecked());
+    } catch (const RuntimeError& e) {
+        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
+        stored = true;  // stored before the calculation failed
+    }
+    if (!stored) return false;
+    text = Text(t);
+    vsfElement->item(gridRow - 1, 2)->setText(text);
+    vsfElement->setUpdatesEnabled(false);
+    storing_ = true;
+    if (refresh_) refresh_();
+    else Disp_Selected();
+    storing_ = false;
+    vsfElement->setUpdatesEnabled(true);
+    return true;
+}
+
+void frmInfobox::Unload() {
+    Window_Save(this, kInfoboxWindowKeys);
+    hide();
+}
+
+void frmInfobox::closeEvent(QCloseEvent* event) {
+    Window_Save(this, kInfoboxWindowKeys);
+    QWidget::closeEvent(event);
+}
