@@ -146,6 +146,7 @@ frmInfobox::frmInfobox(std::function<void()> refresh, std::function<void()> sele
     vsfElement->setObjectName("vsfElement");
     vsfElement->verticalHeader()->hide();
     vsfElement->setHorizontalHeaderLabels({"Item", "Unit", "Setting"});
+    vsfElement->horizontalHeader()->setStretchLastSection(true);
     vsfElement->setSelectionMode(QAbstractItemView::SingleSelection);
     vsfElement->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::AnyKeyPressed |
                                 QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
@@ -159,10 +160,14 @@ frmInfobox::frmInfobox(std::function<void()> refresh, std::function<void()> sele
             if (c == 2) it->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
             vsfElement->setItem(r, c, it);
         }
-    vsfElement->resizeRowsToContents();
-    const int height = vsfElement->horizontalHeader()->sizeHint().height() +
-                       kItemGridRows * vsfElement->verticalHeader()->defaultSectionSize() + 4;
-    vsfElement->setMinimumHeight(height);
+    // The fourteen rows always show whole, without a scroll bar.
+    const int rowHeight = vsfElement->fontMetrics().height() + 6;
+    vsfElement->verticalHeader()->setMinimumSectionSize(rowHeight);
+    vsfElement->verticalHeader()->setDefaultSectionSize(rowHeight);
+    vsfElement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    vsfElement->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    vsfElement->setFixedHeight(vsfElement->horizontalHeader()->sizeHint().height() + kItemGridRows * rowHeight +
+                               2 * vsfElement->frameWidth());
     connect(vsfElement, &QTableWidget::currentCellChanged, this,
             [this](int row) { LastGridRow = static_cast<int16_t>(row + 1); });
 
@@ -181,9 +186,12 @@ frmInfobox::frmInfobox(std::function<void()> refresh, std::function<void()> sele
     checks->addStretch();
     auto* main = new QVBoxLayout(this);
     main->addWidget(cboElement);
-    main->addWidget(vsfElement, 1);
+    main->addWidget(vsfElement);
     main->addLayout(checks);
-    resize(4070 / 15 + 40, height + 90);
+    main->setSizeConstraint(QLayout::SetFixedSize);
+    // The column widths keep their proportions over a grid wide enough for
+    // the longest unit names.
+    vsfElement->setFixedWidth(440);
     Window_Restore(this, kInfoboxWindowKeys);
 }
 

@@ -36,6 +36,7 @@ frmItem::frmItem(ItemSeams seams, QWidget* parent) : QWidget(parent, Qt::Tool), 
     TabStrip1 = new QTabBar(this);
     TabStrip1->setObjectName("TabStrip1");
     TabStrip1->setExpanding(false);
+    TabStrip1->setUsesScrollButtons(false);  // all five captions always show
     for (int t = 1; t <= kPaletteTabs; ++t) TabStrip1->addTab(QString::fromLatin1(Palette_TabCaption(t).data()));
     TabStrip1->installEventFilter(this);
     connect(TabStrip1, &QTabBar::currentChanged, this, [this](int i) { TabStrip1_Click(i + 1); });
@@ -59,7 +60,6 @@ frmItem::frmItem(ItemSeams seams, QWidget* parent) : QWidget(parent, Qt::Tool), 
         txtElement[i] = new QLabel(Shape[i]);
         txtElement[i]->setObjectName(QString("txtElement%1").arg(i));
         txtElement[i]->setAlignment(Qt::AlignCenter);
-        txtElement[i]->setAutoFillBackground(true);
         txtElement[i]->setMinimumWidth(96);
         layout->addWidget(picElement[i], 1);
         layout->addWidget(txtElement[i]);
@@ -91,6 +91,7 @@ void frmItem::TabStrip1_Click(int tab) {
         const std::string_view tag = Type_Label(code);
         picElement[c]->setPixmap(tag.empty() ? QPixmap() : Picture_Type(code, kCellPicture));
         txtElement[c]->setText(QString::fromStdString(Cp1252_ToUtf8(tag)));
+        txtElement[c]->setAutoFillBackground(!tag.empty());  // an empty cell shows no caption bar
     }
     ItemTab = static_cast<int16_t>(tab);
 }
