@@ -412,6 +412,16 @@ void frmMain::mnuMortorSelect_Click() {
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) Form_Activate();
+    // The palette and the settings go into the taskbar and come back with the
+    // main window; maximising leaves them where they are.
+    if (event->type() == QEvent::WindowStateChange) {
+        const bool wasMinimised = static_cast<QWindowStateChangeEvent*>(event)->oldState() & Qt::WindowMinimized;
+        for (QWidget* floating : {static_cast<QWidget*>(item_), static_cast<QWidget*>(infobox_)}) {
+            if (!floating->isVisible()) continue;
+            if (isMinimized()) floating->showMinimized();
+            else if (wasMinimised && windowState() == Qt::WindowNoState) floating->showNormal();
+        }
+    }
 }
 
 void frmMain::Form_Activate() {

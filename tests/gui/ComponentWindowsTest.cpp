@@ -288,6 +288,60 @@ TEST_F(ComponentWindowsTest, TheInsertQuestionAnswersByItsThreeButtons) {
     EXPECT_EQ(frmInsertQ::Ask(nullptr), MsgAnswer::Cancel);
 }
 
+TEST_F(ComponentWindowsTest, TabOnTheTabsGoesToTheCellInFocusAndDeleteDeletes) {
+    frmMain w;
+    StartManual(w);
+    frmItem* p = w.ItemWindow();
+    DoubleClick(p, 1, 2);  // belt
+    ASSERT_EQ(ElementCount, 2);
+    p->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(p));
+    p->TabStrip1->setFocus();
+    QTest::keyClick(p->TabStrip1, Qt::Key_Tab);
+    EXPECT_TRUE(p->picElement[2]->hasFocus());
+    p->TabStrip1->setFocus();
+    msg.Answer(MsgAnswer::OK);
+    QTest::keyClick(p->TabStrip1, Qt::Key_Delete);
+    EXPECT_EQ(ElementCount, 1);
+    DirtyFlag = 0;
+}
+
+TEST_F(ComponentWindowsTest, ANinthElementComesIntoSightAndIntoTheSettings) {
+    frmMain w;
+    StartManual(w);
+    for (int i = 1; i <= 9; ++i) DoubleClick(w.ItemWindow(), 1, 0);
+    ASSERT_EQ(ElementCount, 10);
+    EXPECT_EQ(SelectedElement, 9);
+    EXPECT_EQ(w.Infobox()->cboElement->currentIndex(), 8);
+    EXPECT_EQ(w.Infobox()->cboElement->currentText(), "9.Reduct. gear");
+    EXPECT_EQ(w.strip->HScroll1->value(), 2);
+    EXPECT_TRUE(w.strip->Shape1[7]->isVisible());
+    DirtyFlag = 0;
+}
+
+TEST_F(ComponentWindowsTest, ArrowsOnTheStripFollowInTheSettings) {
+    frmMain w;
+    StartWith(w, 1);
+    QTest::mouseClick(w.strip->imgElement[1], Qt::LeftButton);
+    QTest::keyClick(w.Picture1, Qt::Key_Right);
+    EXPECT_EQ(SelectedElement, 2);
+    EXPECT_EQ(w.Infobox()->cboElement->currentText(), "2.H ballscrew");
+    EXPECT_EQ(w.Infobox()->CellText(1, 0), "Screw pitch");
+}
+
+TEST_F(ComponentWindowsTest, TheFloatingWindowsFollowTheMainWindowIntoTheTaskbar) {
+    frmMain w;
+    StartManual(w);
+    w.showMinimized();
+    QApplication::processEvents();
+    EXPECT_TRUE(w.ItemWindow()->isMinimized());
+    EXPECT_TRUE(w.Infobox()->isMinimized());
+    w.showNormal();
+    QApplication::processEvents();
+    EXPECT_FALSE(w.ItemWindow()->isMinimized());
+    EXPECT_FALSE(w.Infobox()->isMinimized());
+}
+
 // --- the component settings --------------------------------------------------------
 
 TEST_F(ComponentWindowsTest, AClickOnASlotShowsItsRowsInTheSettings) {
