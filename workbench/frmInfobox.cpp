@@ -188,10 +188,11 @@ frmInfobox::frmInfobox(std::function<void()> refresh, std::function<void()> sele
     main->addWidget(cboElement);
     main->addWidget(vsfElement);
     main->addLayout(checks);
-    main->setSizeConstraint(QLayout::SetFixedSize);
-    // The column widths keep their proportions over a grid wide enough for
-    // the longest unit names.
-    vsfElement->setFixedWidth(440);
+    main->addStretch();
+    // The column widths keep their proportions over the grid's width, at
+    // least wide enough for the longest unit names.
+    vsfElement->setMinimumWidth(440);
+    resize(minimumSizeHint());
     Window_Restore(this, kInfoboxWindowKeys);
 }
 
