@@ -1,30 +1,22 @@
 #include "core/DirectInput.h"
 
-#include <algorithm>
-#include <cctype>
 #include <string>
 
 #include "base/NumberFormat.h"
 #include "core/Catalogue.h"
+#include "core/Text.h"
 #include "units/UnitTable.h"
 
 namespace {
 
-bool Holds(std::string_view text, std::string_view part) {
-    std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return lower.find(part) != std::string::npos;
-}
-
 bool Greyed(int16_t type, int16_t mode, std::string_view name) {
     switch (type) {
         case 2: case 3: case 4: case 7: case 13: case 14: case 15: case 34:
-            return Holds(name, "thickness") || Holds(name, "density");
-        case 8: return Holds(name, "width b") || Holds(name, "density");
+            return Text_HoldsLower(name, "thickness") || Text_HoldsLower(name, "density");
+        case 8: return Text_HoldsLower(name, "width b") || Text_HoldsLower(name, "density");
         case 5:
-            if (mode == 1) return !Holds(name, "external torque");
-            return Holds(name, "length") || Holds(name, "density");
+            if (mode == 1) return !Text_HoldsLower(name, "external torque");
+            return Text_HoldsLower(name, "length") || Text_HoldsLower(name, "density");
         default: return false;
     }
 }

@@ -8,6 +8,7 @@
 #include "base/MsgBox.h"
 #include "base/NumberFormat.h"
 #include "base/Numeric.h"
+#include "core/Text.h"
 #include "units/UnitTable.h"
 
 namespace {
@@ -27,12 +28,10 @@ std::string_view Trim(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-bool Holds(std::string_view text, std::string_view part) { return Lower(text).find(part) != std::string::npos; }
-
 double Diameter(int16_t element, std::string_view part) {
     if (element < 0 || element >= kElementSlots) return 0;
     for (const ElementItem& item : Element[element].Item)
-        if (Holds(item.ItemName.Str(), part)) return Val(item.ItemText.Str());
+        if (Text_HoldsLower(item.ItemName.Str(), part)) return Val(item.ItemText.Str());
     return 0;
 }
 
@@ -135,7 +134,7 @@ void ItemEdit_Store(int16_t element, int gridRow, const std::string& text, bool 
     ElementRecord& e = Element[element];
     ElementItem& item = e.Item[gridRow - 1];
     double v = Val(text);
-    if (directInertia && Holds(item.ItemName.Str(), "inertia")) {
+    if (directInertia && Text_HoldsLower(item.ItemName.Str(), "inertia")) {
         e.DirectValue = ToS(8, UnitTable[8].Sel, v);
         return;
     }

@@ -1,20 +1,11 @@
 #include "core/ItemGrid.h"
 
-#include <algorithm>
-#include <cctype>
-
 #include "base/Numeric.h"
 #include "core/Catalogue.h"
+#include "core/Text.h"
 #include "units/UnitTable.h"
 
 namespace {
-
-bool Holds(std::string_view text, std::string_view part) {
-    std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return lower.find(part) != std::string::npos;
-}
 
 // A ratio stands as typed, a "--" as "--", an empty text stays empty, and any
 // other text is shown as a number of four significant digits.
@@ -23,7 +14,7 @@ std::string Setting(const ElementItem& item) {
     if (text.find('/') != std::string_view::npos) return std::string(text);
     if (text.find("--") != std::string_view::npos) return "--";
     if (text.find_first_not_of(' ') == std::string_view::npos) return {};
-    return Num_Format(Val(text), Holds(item.ItemName.Str(), "inertia") ? 1 : 0, 1);
+    return Num_Format(Val(text), Text_HoldsLower(item.ItemName.Str(), "inertia") ? 1 : 0, 1);
 }
 
 }  // namespace
