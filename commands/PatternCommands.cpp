@@ -1,5 +1,7 @@
 #include "commands/PatternCommands.h"
 
+#include <utility>
+
 #include "base/MsgBox.h"
 #include "base/Numeric.h"
 #include "calc/mdlCulcurate.h"
@@ -68,6 +70,8 @@ bool Patarn_AfterEdit(int gridRow, int col, const std::string& text, int16_t& es
 }
 
 bool Patarn_DeleteRows(int low, int high) {
+    // The block runs from its lower to its higher row, however it was selected.
+    if (low > high) std::swap(low, high);
     if (low < 2 || high < 2 || high > kPatarnRows + 1) return false;
     const int top = low - 1, n = high - low + 1;
     const double a = Patarn[top - 1].Speed, b = Patarn[top + n].Speed;
