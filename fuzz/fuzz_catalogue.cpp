@@ -19,6 +19,7 @@
 #include "calc/mdlCulcurate.h"
 #include "core/Document.h"
 #include "core/Tables.h"
+#include "fuzz/FuzzFolder.h"
 #include "selection/DriverPage.h"
 #include "selection/MotorPage.h"
 
@@ -95,13 +96,8 @@ void Run_Wizard() {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static const std::string dir = [] {
-        std::string d = (std::filesystem::temp_directory_path() / "torvane-fuzz-XXXXXX").string();
-        if (mkdtemp(d.data()) == nullptr) std::abort();
-        MsgBox_SetHandler([](const MsgRequest&) { return MsgAnswer::OK; });
-        return d;
-    }();
-    AppPath = dir;
+    MsgBox_SetHandler([](const MsgRequest&) { return MsgAnswer::OK; });
+    const std::string& dir = Fuzz_Folder();
     if (!Build(dir + "/Series.db", Fields(data, size))) return 0;
     Template_Fill(1, true);
     ElementCount = MecaTemplateCount[1];

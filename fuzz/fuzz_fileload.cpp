@@ -3,31 +3,16 @@
 // and that document saves and opens again.
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "core/Catalogue.h"
 #include "core/Tables.h"
 #include "core/Templates.h"
+#include "fuzz/FuzzFolder.h"
 #include "persist/mdlFile.h"
 #include "units/UnitTable.h"
 
 namespace {
-
-const std::string& Folder() {
-    static const std::string dir = [] {
-        std::string d = (std::filesystem::temp_directory_path() / "torvane-fuzz-XXXXXX").string();
-        if (mkdtemp(d.data()) == nullptr) std::abort();
-        AppPath = d;
-        Init_ItemCounts();
-        Init_Templates();
-        Unit_SetNames();
-        for (int k = 0; k < kUnitCategories; ++k) UnitTable[k].Sel = kUnitFreshSel[k];
-        return d;
-    }();
-    return dir;
-}
 
 void Check_Usable() {
     bool ok = ElementCount >= 1 && ElementCount <= kMaxElements && (MotorSelected == 0 || MotorSelected == 1) &&
@@ -43,9 +28,8 @@ void Check_Usable() {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    const std::string path = Folder() + "/fuzz.AP2";
-    std::ofstream(path, std::ios::binary | std::ios::trunc)
-        .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
+    const std::string path = Fuzz_Folder() + "/fuzz.AP2";
+    Fuzz_Write(path, data, size);
     File_Load(path);
     Check_Usable();
     if (!File_Save(path)) std::abort();

@@ -1,0 +1,34 @@
+// What every fuzz target starts from: a fresh temporary folder as AppPath,
+// made once per process, with the tables a start-up prepares.
+#pragma once
+
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "core/Catalogue.h"
+#include "core/Tables.h"
+#include "core/Templates.h"
+#include "units/UnitTable.h"
+
+inline const std::string& Fuzz_Folder() {
+    static const std::string dir = [] {
+        std::string d = (std::filesystem::temp_directory_path() / "torvane-fuzz-XXXXXX").string();
+        if (mkdtemp(d.data()) == nullptr) std::abort();
+        Init_ItemCounts();
+        Init_Templates();
+        Unit_SetNames();
+        for (int k = 0; k < kUnitCategories; ++k) UnitTable[k].Sel = kUnitFreshSel[k];
+        return d;
+    }();
+    AppPath = dir;
+    return dir;
+}
+
+// The input, byte for byte, as the file at path.
+inline void Fuzz_Write(const std::string& path, const uint8_t* data, size_t size) {
+    std::ofstream(path, std::ios::binary | std::ios::trunc)
+        .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
+}
