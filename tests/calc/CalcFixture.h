@@ -18,15 +18,8 @@ inline double Steel(double d, double l) { return (d * d) * 24492 * l / 4; }
 class CalcTest : public StateTest {
 protected:
     // The chain of the types from slot 1 on, each with its defaults, behind the motor.
-    static void Place(std::initializer_list<int16_t> types) {
-        int16_t slot = 1;
-        for (const int16_t type : types) {
-            Element[slot].ElementType = type;
-            Item_Defaults(type, Element[slot].Item);
-            ++slot;
-        }
-        ElementCount = slot;
-    }
+    static void Place(std::initializer_list<int16_t> types) { Chain_Set(types, 1); }
+
 
     // A template chain as the main window builds it.
     static void Build(int16_t number) {

@@ -19,19 +19,8 @@ constexpr double kScrewRatio = 0.01 / 6.28;  // default lead of a ballscrew per 
 class ChainCommandsTest : public StateTest {
 protected:
     // The motor and then the types from slot 1 on, each with its defaults.
-    static void SetChain(std::initializer_list<int16_t> types) {
-        int16_t slot = 1;
-        for (const int16_t type : types) {
-            Element[slot].ElementType = type;
-            Item_Defaults(type, Element[slot].Item);
-            ++slot;
-        }
-        ElementCount = slot;
-        for (; slot <= 19; ++slot) {
-            Element[slot].ElementType = kTypeEmpty;
-            Item_Defaults(kTypeEmpty, Element[slot].Item);
-        }
-    }
+    static void SetChain(std::initializer_list<int16_t> types) { Chain_Set(types, 1); }
+
 
     static std::array<int16_t, kElementSlots> Types() {
         std::array<int16_t, kElementSlots> types{};

@@ -12,24 +12,10 @@
 
 namespace {
 
-// Builds a chain from the motor outward; every slot behind it holds 50.
-void SetChain(std::initializer_list<int16_t> types) {
-    int slot = 0;
-    for (const int16_t type : types) {
-        Element[slot].ElementType = type;
-        Item_Defaults(type, Element[slot].Item);
-        ++slot;
-    }
-    ElementCount = static_cast<int16_t>(slot);
-    for (; slot <= 19; ++slot) {
-        Element[slot].ElementType = kTypeEmpty;
-        Item_Defaults(kTypeEmpty, Element[slot].Item);
-    }
-}
 
 // The motor followed by a gear (2) in slot 1 and reducers (1) up to `count` elements.
 void SetGearChain(int count) {
-    SetChain({51, 2});
+    Chain_Set({51, 2});
     for (int slot = 2; slot < count; ++slot) Element[slot].ElementType = 1;
     ElementCount = static_cast<int16_t>(count);
 }
@@ -145,7 +131,7 @@ TEST_F(ChainTest, CancellingOverwriteInAFullChainDeclines) {
 }
 
 TEST_F(ChainTest, ReducerBeforeAScrewWithALoadBehindAsksInsert) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     DragType = 1;
     msg.Answer(MsgAnswer::OK);
     EXPECT_EQ(Chain_PlaceCheck(2), 0);  // P 1 rotates, C 11 with N 31 behind: insert only
@@ -157,7 +143,7 @@ TEST_F(ChainTest, ReducerBeforeAScrewWithALoadBehindAsksInsert) {
 }
 
 TEST_F(ChainTest, CancellingInsertDeclinesAndKeepsTheCount) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     DragType = 1;
     msg.Answer(MsgAnswer::Cancel);
     EXPECT_EQ(Chain_PlaceCheck(2), -2);
@@ -165,7 +151,7 @@ TEST_F(ChainTest, CancellingInsertDeclinesAndKeepsTheCount) {
 }
 
 TEST_F(ChainTest, InsertIntoAFullChainIsRefused) {
-    SetChain({51, 11});
+    Chain_Set({51, 11});
     for (int slot = 2; slot <= 19; ++slot) Element[slot].ElementType = 31;
     ElementCount = 20;
     DragType = 1;
@@ -175,7 +161,7 @@ TEST_F(ChainTest, InsertIntoAFullChainIsRefused) {
 }
 
 TEST_F(ChainTest, SlotZeroAndSlotTwentyAreRefused) {
-    SetChain({51, 1});
+    Chain_Set({51, 1});
     DragType = 1;
     EXPECT_EQ(Chain_PlaceCheck(0), -1);
     EXPECT_EQ(Chain_PlaceCheck(20), -1);
@@ -190,7 +176,7 @@ TEST_F(ChainTest, NothingFloatsBehindAnEmptySlot) {
 }
 
 TEST_F(ChainTest, SpecialMechanismOnSlotOneWithASecondComponentIsRefused) {
-    SetChain({51, 1, 11});
+    Chain_Set({51, 1, 11});
     DragType = 41;
     EXPECT_EQ(Chain_PlaceCheck(1), -1);
     DragType = 42;
@@ -207,7 +193,7 @@ TEST_F(ChainTest, SpecialMechanismGoesBehindTheMotorAlone) {
 }
 
 TEST_F(ChainTest, SpecialMechanismOverwritesTheOnlyComponentAfterAsking) {
-    SetChain({51, 1});
+    Chain_Set({51, 1});
     DragType = 42;
     msg.Answer(MsgAnswer::OK);
     EXPECT_EQ(Chain_PlaceCheck(1), 1);
@@ -217,7 +203,7 @@ TEST_F(ChainTest, SpecialMechanismOverwritesTheOnlyComponentAfterAsking) {
 }
 
 TEST_F(ChainTest, SpecialMechanismIsRefusedAfterTheFirstSlot) {
-    SetChain({51, 1});
+    Chain_Set({51, 1});
     DragType = 41;
     EXPECT_EQ(Chain_PlaceCheck(2), -1);  // P is 1, not the motor
 }
@@ -225,7 +211,7 @@ TEST_F(ChainTest, SpecialMechanismIsRefusedAfterTheFirstSlot) {
 TEST_F(ChainTest, NothingCanBeAddedBehindASpecialMechanism) {
     for (const int16_t special : {int16_t{41}, int16_t{42}}) {
         for (const int16_t type : kKnownTypes) {
-            SetChain({51, special});
+            Chain_Set({51, special});
             DragType = type;
             EXPECT_EQ(Chain_PlaceCheck(2), -1) << "type " << type << " behind " << special;
             EXPECT_EQ(ElementCount, 2);
@@ -237,7 +223,7 @@ TEST_F(ChainTest, NothingCanBeAddedBehindASpecialMechanism) {
 TEST_F(ChainTest, SpecialMechanismInSlotOneIsOverwrittenByRotaryInputComponents) {
     for (const int16_t type : kKnownTypes) {
         if (type > 20) continue;
-        SetChain({51, 41});
+        Chain_Set({51, 41});
         DragType = type;
         msg.Clear();
         msg.Answer(MsgAnswer::OK);
@@ -249,7 +235,7 @@ TEST_F(ChainTest, SpecialMechanismInSlotOneIsOverwrittenByRotaryInputComponents)
 
 TEST_F(ChainTest, SpecialMechanismInSlotOneIsNotOverwrittenByLinearInputComponents) {
     for (const int16_t type : {int16_t{21}, int16_t{31}, int16_t{32}, int16_t{33}, int16_t{34}}) {
-        SetChain({51, 41});
+        Chain_Set({51, 41});
         DragType = type;
         EXPECT_EQ(Chain_PlaceCheck(1), -1) << "type " << type;
     }
@@ -257,7 +243,7 @@ TEST_F(ChainTest, SpecialMechanismInSlotOneIsNotOverwrittenByLinearInputComponen
 }
 
 TEST_F(ChainTest, LinearComponentBetweenRotatingNeighboursIsRefused) {
-    SetChain({51, 1, 2, 3});
+    Chain_Set({51, 1, 2, 3});
     for (const int16_t type : {int16_t{31}, int16_t{32}, int16_t{33}, int16_t{34}}) {
         DragType = type;
         EXPECT_EQ(Chain_PlaceCheck(2), -1) << "type " << type;  // P 1 rotates, N 3 follows
@@ -267,7 +253,7 @@ TEST_F(ChainTest, LinearComponentBetweenRotatingNeighboursIsRefused) {
 }
 
 TEST_F(ChainTest, LinearComponentOnTheLoadEndAsksInsertOrOverwrite) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     DragType = 33;
     msg.Answer(MsgAnswer::Overwrite);
     EXPECT_EQ(Chain_PlaceCheck(3), 1);  // P 11 is linear, C 31 is linear
@@ -277,7 +263,7 @@ TEST_F(ChainTest, LinearComponentOnTheLoadEndAsksInsertOrOverwrite) {
 }
 
 TEST_F(ChainTest, OnlyItsLikeReplacesAComponentWithNeighboursOnBothSides) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     DragType = 12;  // 11 to 20 replaces 11
     msg.Answer(MsgAnswer::OK);
     EXPECT_EQ(Chain_PlaceCheck(2), 1);
@@ -287,26 +273,26 @@ TEST_F(ChainTest, OnlyItsLikeReplacesAComponentWithNeighboursOnBothSides) {
 }
 
 TEST_F(ChainTest, LoadEndTakesRotaryInputBehindARotatingOutput) {
-    SetChain({51, 1});
+    Chain_Set({51, 1});
     DragType = 11;
     EXPECT_EQ(Chain_PlaceCheck(2), 1);
     EXPECT_EQ(ElementCount, 3);
-    SetChain({51, 1});
+    Chain_Set({51, 1});
     DragType = 21;  // linear input behind a rotating output
     EXPECT_EQ(Chain_PlaceCheck(2), -1);
 }
 
 TEST_F(ChainTest, LoadEndTakesLinearInputBehindALinearOutput) {
-    SetChain({51, 11});
+    Chain_Set({51, 11});
     DragType = 21;
     EXPECT_EQ(Chain_PlaceCheck(2), 1);
-    SetChain({51, 11});
+    Chain_Set({51, 11});
     DragType = 1;
     EXPECT_EQ(Chain_PlaceCheck(2), -1);
 }
 
 TEST_F(ChainTest, CheckAlwaysClearsInsertAnswer) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     DragType = 1;
     InsertAnswer = 2;  // a previous answer: no question asked
     EXPECT_EQ(Chain_PlaceCheck(2), 0);
@@ -320,7 +306,7 @@ TEST_F(ChainTest, CheckAlwaysClearsInsertAnswer) {
 // --- the table operations ------------------------------------------------------------
 
 TEST_F(ChainTest, OpenSlotMovesEveryFieldOneSlotTowardTheEnd) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     Element[1].InputMode = 1;
     Element[1].DirectValue = 2.5;
     Element[1].Item[0].Value = 0.01;
@@ -342,7 +328,7 @@ TEST_F(ChainTest, OpenSlotMovesEveryFieldOneSlotTowardTheEnd) {
 }
 
 TEST_F(ChainTest, SetSlotFillsTheSlotWithDefaultsAndSelectsIt) {
-    SetChain({51, 1, 31});
+    Chain_Set({51, 1, 31});
     Element[2].InputMode = 2;
     DragType = 11;
     Chain_SetSlot(2);
@@ -355,7 +341,7 @@ TEST_F(ChainTest, SetSlotFillsTheSlotWithDefaultsAndSelectsIt) {
 }
 
 TEST_F(ChainTest, InsertThenSetPlacesTheComponentBetween) {
-    SetChain({51, 11, 31});
+    Chain_Set({51, 11, 31});
     DragType = 1;
     msg.Answer(MsgAnswer::OK);
     ASSERT_EQ(Chain_PlaceCheck(1), 0);  // C 11 with N 31: insert after "Insert?"
@@ -372,7 +358,7 @@ TEST_F(ChainTest, InsertThenSetPlacesTheComponentBetween) {
 // --- deleting -------------------------------------------------------------------------
 
 TEST_F(ChainTest, ReducerBetweenMotorAndBallScrewMayBeDeleted) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     msg.Answer(MsgAnswer::OK);
     EXPECT_EQ(Chain_DeleteCheck(1), 0);  // previous 51, next first digit 1
     ASSERT_EQ(msg.Seen().size(), 1u);
@@ -381,13 +367,13 @@ TEST_F(ChainTest, ReducerBetweenMotorAndBallScrewMayBeDeleted) {
 }
 
 TEST_F(ChainTest, BallScrewBetweenReducerAndLinearTableMayNotBeDeleted) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     EXPECT_EQ(Chain_DeleteCheck(2), -1);  // previous "01" first digit 0, next "31" first digit 3
     EXPECT_TRUE(msg.Seen().empty());
 }
 
 TEST_F(ChainTest, LinearStageBetweenLinearOutputAndLinearLoadMayBeDeleted) {
-    SetChain({51, 11, 32, 31});
+    Chain_Set({51, 11, 32, 31});
     msg.Answer(MsgAnswer::OK);
     EXPECT_EQ(Chain_DeleteCheck(2), 0);  // previous 1x, next 3x
 }
@@ -395,17 +381,17 @@ TEST_F(ChainTest, LinearStageBetweenLinearOutputAndLinearLoadMayBeDeleted) {
 TEST_F(ChainTest, ExternalForceCountsWithTheOneGroup) {
     // 10 reads "10": first digit 1, so a gear between it and a rack (2x) may go,
     // although a 10 has rotation on both ends.
-    SetChain({51, 10, 2, 21, 5});
+    Chain_Set({51, 10, 2, 21, 5});
     msg.Answer(MsgAnswer::OK);
     EXPECT_EQ(Chain_DeleteCheck(2), 0);
     // With the reducer (first digit 0) before it, the next must be 0x or 1x: 21 is not.
-    SetChain({51, 1, 2, 21, 5});
+    Chain_Set({51, 1, 2, 21, 5});
     EXPECT_EQ(Chain_DeleteCheck(2), -1);
 }
 
 TEST_F(ChainTest, DeletingTheLastComponentAlwaysAsks) {
     for (const auto& chain : {std::initializer_list<int16_t>{51, 1, 11, 31}, {51, 1, 11}, {51, 41}, {51, 11, 21}}) {
-        SetChain(chain);
+        Chain_Set(chain);
         msg.Clear();
         msg.Answer(MsgAnswer::OK);
         EXPECT_EQ(Chain_DeleteCheck(static_cast<int16_t>(ElementCount - 1)), 0);
@@ -415,26 +401,26 @@ TEST_F(ChainTest, DeletingTheLastComponentAlwaysAsks) {
 }
 
 TEST_F(ChainTest, CancellingDeleteDeclines) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     msg.Answer(MsgAnswer::Cancel);
     EXPECT_EQ(Chain_DeleteCheck(3), -2);
     EXPECT_EQ(ElementCount, 4);
 }
 
 TEST_F(ChainTest, TheMotorCannotBeDeleted) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     EXPECT_EQ(Chain_DeleteCheck(0), -1);
     EXPECT_TRUE(msg.Seen().empty());
 }
 
 TEST_F(ChainTest, NeighbourInTheFourGroupLetsTheDeleteAsk) {
-    SetChain({51, 1, 41});  // a chain the rules would not build, but the check allows it
+    Chain_Set({51, 1, 41});  // a chain the rules would not build, but the check allows it
     msg.Answer(MsgAnswer::OK);
     EXPECT_EQ(Chain_DeleteCheck(1), 0);
 }
 
 TEST_F(ChainTest, CloseSlotShiftsTheRestAndClearsTheOldLastSlot) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     Element[3].InputMode = 1;
     Element[3].DirectValue = 4;
     SelectedElement = 2;
@@ -453,7 +439,7 @@ TEST_F(ChainTest, CloseSlotShiftsTheRestAndClearsTheOldLastSlot) {
 }
 
 TEST_F(ChainTest, ClosingTheLastSlotMovesTheSelectionBack) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     SelectedElement = 3;
     Chain_CloseSlot();
     EXPECT_EQ(ElementCount, 3);
@@ -462,7 +448,7 @@ TEST_F(ChainTest, ClosingTheLastSlotMovesTheSelectionBack) {
 }
 
 TEST_F(ChainTest, ClosingSlotOneScrollsTheStripBack) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     SelectedElement = 1;
     FirstVisible = 2;
     Chain_CloseSlot();
@@ -473,7 +459,7 @@ TEST_F(ChainTest, ClosingSlotOneScrollsTheStripBack) {
 }
 
 TEST_F(ChainTest, CloseSlotNeverTakesTheCountBelowOne) {
-    SetChain({51});
+    Chain_Set({51});
     SelectedElement = 1;
     Chain_CloseSlot();
     EXPECT_EQ(ElementCount, 1);
@@ -481,7 +467,7 @@ TEST_F(ChainTest, CloseSlotNeverTakesTheCountBelowOne) {
 }
 
 TEST_F(ChainTest, CloseSlotBeyondTheChainChangesNothing) {
-    SetChain({51, 1, 31});
+    Chain_Set({51, 1, 31});
     SelectedElement = 5;
     Chain_CloseSlot();
     EXPECT_EQ(ElementCount, 3);
@@ -489,7 +475,7 @@ TEST_F(ChainTest, CloseSlotBeyondTheChainChangesNothing) {
 }
 
 TEST_F(ChainTest, CloseSlotKeepsThePatternRows) {
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     Patarn[1].Speed = 3000;
     PatternRowCount = 1;
     SelectedElement = 3;
@@ -506,7 +492,7 @@ TEST_F(ChainTest, LoadMotionFollowsTheLastElement) {
         int16_t motion;
     } cases[] = {{1, 1}, {10, 1}, {11, 0}, {18, 0}, {21, 1}, {31, 0}, {34, 0}, {41, 0}, {42, 0}};
     for (const auto& c : cases) {
-        SetChain({51, c.last});
+        Chain_Set({51, c.last});
         EXPECT_EQ(Load_Motion(Element), c.motion) << "last type " << c.last;
     }
 }
@@ -516,9 +502,9 @@ TEST_F(ChainTest, MotorAloneCountsAsLinearLoad) {
 }
 
 TEST_F(ChainTest, LoadMotionLooksOnlyAtTheLastElement) {
-    SetChain({51, 1, 11, 21});
+    Chain_Set({51, 1, 11, 21});
     EXPECT_EQ(Load_Motion(Element), 1);
-    SetChain({51, 1, 11, 31});
+    Chain_Set({51, 1, 11, 31});
     EXPECT_EQ(Load_Motion(Element), 0);
 }
 

@@ -55,3 +55,17 @@ void StateTest::SetUp() {
 }
 
 void StateTest::TearDown() { unsetenv("TORVANE_APP_PATH"); }
+
+void Chain_Set(std::initializer_list<int16_t> types, int16_t first) {
+    int slot = first;
+    for (const int16_t type : types) {
+        Element[slot].ElementType = type;
+        Item_Defaults(type, Element[slot].Item);
+        ++slot;
+    }
+    ElementCount = static_cast<int16_t>(slot);
+    for (; slot <= kMaxElements - 1; ++slot) {  // slot 20 keeps type 0
+        Element[slot].ElementType = kTypeEmpty;
+        Item_Defaults(kTypeEmpty, Element[slot].Item);
+    }
+}

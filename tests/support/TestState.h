@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <initializer_list>
 #include <string>
 
 #include "base/MsgBox.h"
@@ -11,6 +13,10 @@
 // Zeroes every table and scalar, fills the fixed tables, gives the units
 // their fresh-installation picks and clears the document.
 void State_Reset();
+
+// The types from slot `first` on, each with its catalogue defaults; every
+// slot behind them holds the empty type. ElementCount follows.
+void Chain_Set(std::initializer_list<int16_t> types, int16_t first = 0);
 
 // A fresh temporary folder, removed at the end.
 class TempDir {
