@@ -17,6 +17,7 @@
 #include "base/RuntimeError.h"
 #include "commands/ItemCommands.h"
 #include "common/ui/ColumnFit.h"
+#include "common/ui/EditorDetach.h"
 #include "core/Catalogue.h"
 #include "core/DirectInput.h"
 #include "core/ItemEdit.h"
@@ -195,6 +196,8 @@ frmInfobox::frmInfobox(std::function<void()> refresh, std::function<void()> sele
     resize(minimumSizeHint());
     Window_Restore(this, kInfoboxWindowKeys);
 }
+
+frmInfobox::~frmInfobox() { Editor_Detach(vsfElement); }
 
 int frmInfobox::GridRow() const { return vsfElement->currentRow() + 1; }
 

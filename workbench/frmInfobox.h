@@ -18,6 +18,7 @@ public:
     // refresh: the main window's Disp_Refresh; selected: the element became
     // the selected one, so the strip shows and highlights it.
     frmInfobox(std::function<void()> refresh, std::function<void()> selected, QWidget* parent = nullptr);
+    ~frmInfobox() override;
 
     QComboBox* cboElement = nullptr;
     QTableWidget* vsfElement = nullptr;

@@ -20,6 +20,7 @@
 #include "calc/mdlCulcurate.h"
 #include "commands/ChainCommands.h"
 #include "commands/PatternCommands.h"
+#include "common/ui/EditorDetach.h"
 #include "core/Activation.h"
 #include "core/Catalogue.h"
 #include "core/Document.h"
@@ -29,6 +30,7 @@
 #include "pattern/ui/PatarnGrid.h"
 #include "pattern/ui/PatternGraph.h"
 #include "pattern/ui/frmPatarn.h"
+#include "selection/ui/frmList1.h"
 #include "workbench/ChainStrip.h"
 #include "workbench/QtSettingsStore.h"
 #include "workbench/ResultGrid.h"
@@ -77,9 +79,11 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
     Disp_Reset();
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain() { Editor_Detach(vsfPatarn); }
 
 QAction* frmMain::Action(const QString& name) const { return findChild<QAction*>(name); }
+
+frmList1* frmMain::Wizard() const { return list1_; }
 
 QWidget* frmMain::BuildCentre() {
     auto* centre = new QWidget(this);
@@ -174,7 +178,7 @@ void frmMain::BuildMenus() {
 
     QMenu* tools = menuBar()->addMenu("Tools(&T)");
     tools->setObjectName("mnuEdit");
-    add(tools, "mnuMortorSelect", "Motor Selection(&S)", {}, nullptr);
+    add(tools, "mnuMortorSelect", "Motor Selection(&S)", {}, [this] { mnuMortorSelect_Click(); });
     tools->addSeparator();
     add(tools, "mnuElementSelect", "Component Selection(&I)", {}, [this] { mnuElementSelect_Click(); });
     tools->addSeparator();
@@ -407,6 +411,17 @@ void frmMain::mnuMortorSelect_Click() {
         MsgBox("Motor cannot be selected because operating pattern is not input.", "", MsgIcon::Exclamation);
         return;
     }
+    if (list1_) {  // the wizard is up already: its page comes to the front
+        QWidget* page = list1_->ShownPage();
+        page->raise();
+        page->activateWindow();
+        return;
+    }
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    list1_ = new frmList1([this] { Disp_Refresh(); }, this);
+    list1_->show();
+    list1_->WizardOpening = 1;
+    QApplication::restoreOverrideCursor();
 }
 
 void frmMain::changeEvent(QEvent* event) {

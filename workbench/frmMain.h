@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <functional>
 
 class QAction;
@@ -17,6 +18,7 @@ class PatternGraph;
 class ResultGrid;
 class frmInfobox;
 class frmItem;
+class frmList1;
 class frmMeca;
 class frmPatarn;
 class frmUnit;
@@ -60,6 +62,8 @@ public:
     frmUnit* UnitWindow() const { return unit_; }
     frmItem* ItemWindow() const { return item_; }
     frmInfobox* Infobox() const { return infobox_; }
+    // The motor selection wizard while it is open.
+    frmList1* Wizard() const;
 
     ChainStrip* strip = nullptr;
     PatarnGrid* vsfPatarn = nullptr;
@@ -104,5 +108,6 @@ private:
     frmUnit* unit_ = nullptr;
     frmItem* item_ = nullptr;
     frmInfobox* infobox_ = nullptr;
+    QPointer<frmList1> list1_;
     bool closingConfirmed_ = false;
 };

@@ -1,0 +1,9 @@
+// A window's handler run so that a run-time failure of the core is told in
+// a message under the window's title and the window stays usable.
+#pragma once
+
+#include <functional>
+#include <string>
+
+// True when the command ran to its end.
+bool Run_Guarded(const std::string& title, const std::function<void()>& command);

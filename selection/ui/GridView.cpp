@@ -1,0 +1,95 @@
+#include "selection/ui/GridView.h"
+
+#include <QHeaderView>
+#include <string>
+#include <vector>
+
+#include "common/ui/ColumnFit.h"
+
+namespace {
+
+Qt::Alignment Alignment(CellAlign align) {
+    switch (align) {
+        case CellAlign::Left: return Qt::AlignLeft | Qt::AlignVCenter;
+        case CellAlign::Center: return Qt::AlignCenter;
+        case CellAlign::Right: break;
+    }
+    return Qt::AlignRight | Qt::AlignVCenter;
+}
+
+// The system's colour numbers are red + green * 256 + blue * 65536; the
+// negative one is the window text colour of the palette.
+QColor Color(std::string_view number, const QPalette& palette) {
+    if (number == kColorWindowText) return palette.color(QPalette::WindowText);
+    const long value = std::stol(std::string(number));
+    return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
+}
+
+QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+}  // namespace
+
+GridView::GridView(std::span<const GridColumn> columns, QWidget* parent)
+    : QTableWidget(0, static_cast<int>(columns.size()), parent), columns_(columns) {
+    std::vector<int> twips;
+    for (const GridColumn& c : columns_) twips.push_back(c.width);
+    new ColumnFit(this, twips);
+    verticalHeader()->hide();
+    horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    horizontalHeader()->setSectionsClickable(false);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setWordWrap(false);
+    connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int, int previous, int) {
+        if (row != previous && onRowChange) onRowChange(row + kFixedRows);
+    });
+}
+
+void GridView::Show(const Grid& grid) {
+    const int current = currentRow();
+    const QSignalBlocker quiet(this);
+    setUpdatesEnabled(false);
+    clearContents();
+    setRowCount(grid.Rows() - kFixedRows);
+    for (int col = 0; col < grid.Cols(); ++col) {
+        const QString caption = Text(grid.Cell(0, col).text) + "\n" + Text(grid.Cell(1, col).text);
+        setHorizontalHeaderItem(col, new QTableWidgetItem(caption));
+    }
+    for (int row = kFixedRows; row < grid.Rows(); ++row) {
+        for (int col = 0; col < grid.Cols(); ++col) {
+            const GridCell& cell = grid.Cell(row, col);
+            auto* item = new QTableWidgetItem(Text(cell.text));
+            item->setTextAlignment(Alignment(columns_[col].align));
+            QFont font = item->font();
+            font.setBold(cell.bold);
+            item->setFont(font);
+            item->setForeground(Color(cell.color, palette()));
+            setItem(row - kFixedRows, col, item);
+        }
+    }
+    if (current >= 0 && current < rowCount()) setCurrentCell(current, 0);
+    setUpdatesEnabled(true);
+}
+
+int GridView::GridRow() const { return currentRow() + kFixedRows; }
+
+void GridView::SetGridRow(int row) {
+    if (row - kFixedRows < rowCount()) setCurrentCell(row - kFixedRows, 0);
+}
+
+QString GridView::CellText(int row, int col) const {
+    if (row < kFixedRows) return horizontalHeaderItem(col)->text().section('\n', row, row);
+    const QTableWidgetItem* it = item(row - kFixedRows, col);
+    return it ? it->text() : QString();
+}
+
+bool GridView::CellBold(int row, int col) const {
+    const QTableWidgetItem* it = item(row - kFixedRows, col);
+    return it && it->font().bold();
+}
+
+QColor GridView::CellColor(int row, int col) const {
+    const QTableWidgetItem* it = item(row - kFixedRows, col);
+    return it ? it->foreground().color() : QColor();
+}

@@ -1,0 +1,32 @@
+// A wizard grid on the screen: the two fixed rows of the grid become the
+// two lines of the column headers, each catalogue row a row of the table,
+// with the texts, weights and colours the judgement decided. Row numbers
+// given and taken are those of the grid, so the first catalogue row is 2.
+#pragma once
+
+#include <QTableWidget>
+#include <functional>
+#include <span>
+
+#include "selection/Grid.h"
+
+class GridView : public QTableWidget {
+public:
+    GridView(std::span<const GridColumn> columns, QWidget* parent);
+
+    // Shows the whole grid; the current row stays where it was if it still exists.
+    void Show(const Grid& grid);
+    // The grid row of the current row; below 2 when there is none.
+    int GridRow() const;
+    void SetGridRow(int row);
+    // Runs with the new grid row whenever the current row changes.
+    std::function<void(int)> onRowChange;
+
+    // The shown text of a cell by grid row and column (rows 0 and 1 are the headers).
+    QString CellText(int row, int col) const;
+    bool CellBold(int row, int col) const;
+    QColor CellColor(int row, int col) const;
+
+private:
+    std::span<const GridColumn> columns_;
+};

@@ -1,0 +1,179 @@
+#include "selection/ui/frmList1.h"
+
+#include <QCloseEvent>
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "common/ui/RunGuarded.h"
+#include "selection/DriverPage.h"
+#include "selection/mdlDataBase.h"
+#include "selection/ui/GridView.h"
+#include "selection/ui/frmList2.h"
+#include "workbench/QtSettingsStore.h"
+
+namespace {
+
+QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+void Fill(QListWidget* list, const std::vector<std::string>& names, int index) {
+    const QSignalBlocker quiet(list);
+    list->clear();
+    for (const std::string& name : names) list->addItem(Text(name));
+    list->setCurrentRow(index);
+}
+
+QLabel* Buddy(const QString& caption, QWidget* buddy, QWidget* parent) {
+    auto* label = new QLabel(caption, parent);
+    label->setBuddy(buddy);
+    return label;
+}
+
+}  // namespace
+
+frmList1::frmList1(std::function<void()> decided, QWidget* parent)
+    : QWidget(parent, Qt::Window), decided_(std::move(decided)) {
+    setObjectName("frmList1");
+    setWindowTitle(Text(std::string(kTitleMotorSelection)));
+    setAttribute(Qt::WA_DeleteOnClose);
+
+    lstS = new QListWidget(this);
+    lstS->setObjectName("lstS");
+    lstM = new QListWidget(this);
+    lstM->setObjectName("lstM");
+    vsfData = new GridView(kMotorColumns, this);
+    vsfData->setObjectName("vsfData");
+    lblComment = new QLabel(this);
+    lblComment->setObjectName("lblComment");
+    lblComment->setFrameShape(QFrame::Panel);
+    lblComment->setFrameShadow(QFrame::Sunken);
+    lblComment->setWordWrap(true);
+    lblComment->setMinimumHeight(2 * fontMetrics().height() + 6);
+    auto button = [this](const char* name, const QString& caption) {
+        auto* b = new QPushButton(caption, this);
+        b->setObjectName(name);
+        return b;
+    };
+    cmdJudge = button("cmdJudge", "Judgement");
+    CmdPrint = button("CmdPrint", "Print");
+    CmdPrint->setEnabled(false);  // the series list print dialog comes with the reports
+    cmdReverce = button("cmdReverce", "< Back(&B)");
+    cmdNext = button("cmdNext", "Next >");
+    CmdCancel = button("CmdCancel", "Cancel");
+
+    auto* lists = new QGridLayout;
+    lists->addWidget(Buddy("Series(&S)", lstS, this), 0, 0);
+    lists->addWidget(Buddy("Model(&D)", lstM, this), 0, 1);
+    lists->addWidget(lstS, 1, 0);
+    lists->addWidget(lstM, 1, 1);
+    lstS->setMaximumHeight(8 * fontMetrics().height());
+    lstM->setMaximumHeight(8 * fontMetrics().height());
+    auto* keys = new QHBoxLayout;
+    keys->addWidget(cmdJudge);
+    keys->addWidget(CmdPrint);
+    keys->addStretch();
+    keys->addWidget(cmdReverce);
+    keys->addWidget(cmdNext);
+    keys->addWidget(CmdCancel);
+    auto* main = new QVBoxLayout(this);
+    main->addLayout(lists);
+    main->addWidget(vsfData, 1);
+    main->addWidget(lblComment);
+    main->addLayout(keys);
+
+    connect(lstS, &QListWidget::currentRowChanged, this, [this](int row) { if (row >= 0) lstS_Click(row); });
+    connect(lstM, &QListWidget::currentRowChanged, this, [this](int row) { if (row >= 0) lstM_Click(row); });
+    vsfData->onRowChange = [this](int row) {
+        vsfData_RowChange(page_, row);
+        lblComment->setText(Text(page_.lblComment));
+    };
+    connect(cmdJudge, &QPushButton::clicked, this, &frmList1::cmdJudge_Click);
+    connect(cmdNext, &QPushButton::clicked, this, &frmList1::cmdNext_Click);
+    connect(cmdReverce, &QPushButton::clicked, this, &frmList1::Wizard_Unload);
+    connect(CmdCancel, &QPushButton::clicked, this, &frmList1::Wizard_Unload);
+    resize(860, 520);
+    Form_Load();
+}
+
+void frmList1::Form_Load() {
+    Window_Restore(this, kListWindowKeys);
+    Run_Guarded(std::string(kTitleMotorSelection), [this] { List1_Load(page_); });
+    Disp_Page();
+}
+
+void frmList1::Disp_Page() {
+    Fill(lstS, page_.lstS, page_.lstSIndex);
+    Fill(lstM, page_.lstM, page_.lstMIndex);
+    vsfData->Show(page_.vsfData);
+    {
+        const QSignalBlocker quiet(vsfData);
+        vsfData->SetGridRow(page_.Row);
+    }
+    lblComment->setText(Text(page_.lblComment));
+}
+
+void frmList1::lstS_Click(int index) {
+    Run_Guarded(std::string(kTitleMotorSelection), [&] { ::lstS_Click(page_, index); });
+    Disp_Page();
+}
+
+void frmList1::lstM_Click(int index) {
+    Run_Guarded(std::string(kTitleMotorSelection), [&] { ::lstM_Click(page_, index); });
+    Disp_Page();
+}
+
+void frmList1::cmdJudge_Click() {
+    Run_Guarded(std::string(kTitleMotorSelection), [this] { ::cmdJudge_Click(page_); });
+    Disp_Page();
+    vsfData->setFocus();
+}
+
+void frmList1::cmdNext_Click() {
+    DriverPage chosen;
+    bool taken = false;
+    Run_Guarded(std::string(kTitleMotorSelection), [&] { taken = ::cmdNext_Click(page_, chosen); });
+    if (!taken) return;
+    if (!list2_) list2_ = new frmList2(this, decided_);
+    list2_->Motor_Take(chosen);
+    list2_->move(pos());
+    hide();
+    list2_->show();
+    list2_->raise();
+    list2_->activateWindow();
+}
+
+void frmList1::Wizard_Unload() { close(); }
+
+QWidget* frmList1::ShownPage() {
+    if (list2_ && list2_->isVisible()) return list2_;
+    return this;
+}
+
+void frmList1::Form_Activate() {
+    if (WizardOpening == 1) {
+        WizardOpening = 0;
+        return;
+    }
+    vsfData->setFocus();
+}
+
+void frmList1::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !unloading_) Form_Activate();
+}
+
+void frmList1::closeEvent(QCloseEvent* event) {
+    unloading_ = true;
+    Window_Save(this, kListWindowKeys);
+    List1_Unload();
+    if (list2_) {
+        list2_->Unload();
+        list2_->deleteLater();
+        list2_ = nullptr;
+    }
+    QWidget::closeEvent(event);
+}

@@ -1,0 +1,47 @@
+// "Driver Selection", the second page of the selection wizard: the drivers
+// that fit the motor taken on, judged on their regeneration, rebuilt every
+// time the page comes to the front. "Finish" stores motor and driver.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "selection/DriverPage.h"
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class GridView;
+class frmList1;
+
+class frmList2 : public QWidget {
+    Q_OBJECT
+public:
+    // decided runs after "Finish" stored motor and driver.
+    frmList2(frmList1* list1, std::function<void()> decided);
+
+    QLabel* lblMotor = nullptr;
+    QLineEdit* txtMotor = nullptr;
+    GridView* vsfDrvList = nullptr;
+    QPushButton* cmdDecide = nullptr;
+    QPushButton* cmdReverse = nullptr;
+    QPushButton* CmdCancel = nullptr;
+
+    // Takes the motor that "Next >" chose: lblMotor and txtMotor show it.
+    void Motor_Take(const DriverPage& chosen);
+    void Form_Activate();
+    void cmdDecide_Click();
+    void cmdReverse_Click();
+    // Stores the position, unless minimised, and hides the page.
+    void Unload();
+    const DriverPage& Page() const { return page_; }
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    DriverPage page_;
+    frmList1* list1_;
+    std::function<void()> decided_;
+};
