@@ -1,6 +1,7 @@
 #include "selection/ui/GridView.h"
 
 #include <QHeaderView>
+#include <QStyledItemDelegate>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,20 @@ QColor Color(std::string_view number, const QPalette& palette) {
 
 QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
 
+// The current row is marked by a light background under which every text
+// keeps its verdict colour.
+class KeepColours : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const QVariant foreground = index.data(Qt::ForegroundRole);
+        if (foreground.isValid()) option->palette.setBrush(QPalette::HighlightedText, foreground.value<QBrush>());
+    }
+};
+
 }  // namespace
 
 GridView::GridView(std::span<const GridColumn> columns, QWidget* parent)
@@ -41,6 +56,11 @@ GridView::GridView(std::span<const GridColumn> columns, QWidget* parent)
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setWordWrap(false);
+    setTabKeyNavigation(false);
+    setItemDelegate(new KeepColours(this));
+    QPalette marks = palette();
+    marks.setColor(QPalette::Highlight, QColor(204, 228, 247));
+    setPalette(marks);  // Tab goes on to the next control, as in every row list
     connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int, int previous, int) {
         if (row != previous && onRowChange) onRowChange(row + kFixedRows);
     });
@@ -60,6 +80,7 @@ void GridView::Show(const Grid& grid) {
         for (int col = 0; col < grid.Cols(); ++col) {
             const GridCell& cell = grid.Cell(row, col);
             auto* item = new QTableWidgetItem(Text(cell.text));
+            item->setToolTip(item->text());  // a long comment shows whole under the pointer
             item->setTextAlignment(Alignment(columns_[col].align));
             QFont font = item->font();
             font.setBold(cell.bold);

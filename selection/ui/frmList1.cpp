@@ -85,8 +85,13 @@ frmList1::frmList1(std::function<void()> decided, QWidget* parent)
     main->addWidget(lblComment);
     main->addLayout(keys);
 
-    connect(lstS, &QListWidget::currentRowChanged, this, [this](int row) { if (row >= 0) lstS_Click(row); });
-    connect(lstM, &QListWidget::currentRowChanged, this, [this](int row) { if (row >= 0) lstM_Click(row); });
+    // A pick is a selection: the focus coming into a list marks a row without picking it.
+    connect(lstS, &QListWidget::itemSelectionChanged, this, [this] {
+        if (lstS->currentRow() >= 0) lstS_Click(lstS->currentRow());
+    });
+    connect(lstM, &QListWidget::itemSelectionChanged, this, [this] {
+        if (lstM->currentRow() >= 0) lstM_Click(lstM->currentRow());
+    });
     vsfData->onRowChange = [this](int row) {
         vsfData_RowChange(page_, row);
         lblComment->setText(Text(page_.lblComment));
@@ -95,7 +100,7 @@ frmList1::frmList1(std::function<void()> decided, QWidget* parent)
     connect(cmdNext, &QPushButton::clicked, this, &frmList1::cmdNext_Click);
     connect(cmdReverce, &QPushButton::clicked, this, &frmList1::Wizard_Unload);
     connect(CmdCancel, &QPushButton::clicked, this, &frmList1::Wizard_Unload);
-    resize(860, 520);
+    resize(1020, 580);
     Form_Load();
 }
 

@@ -76,7 +76,7 @@ frmList2::frmList2(frmList1* list1, std::function<void()> decided)
     connect(cmdDecide, &QPushButton::clicked, this, &frmList2::cmdDecide_Click);
     connect(cmdReverse, &QPushButton::clicked, this, &frmList2::cmdReverse_Click);
     connect(CmdCancel, &QPushButton::clicked, list1_, &frmList1::Wizard_Unload);
-    resize(940, 440);
+    resize(1100, 460);
     vsfDrvList->Show(page_.vsfDrvList);
 }
 

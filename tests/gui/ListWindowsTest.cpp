@@ -15,6 +15,7 @@
 #include "tests/gui/WorkbenchFixture.h"
 #include "tests/selection/CatalogueFixture.h"
 #include "tests/selection/SizedDocument.h"
+#include "workbench/FileDialog.h"
 #include "workbench/ResultGrid.h"
 
 namespace {
@@ -203,6 +204,16 @@ TEST_F(ListWindowsTest, PickingASeriesShowsItsGroupsAndTheMotorsOfTheFirst) {
     EXPECT_EQ(MotorRowCount, 5);
 }
 
+TEST_F(ListWindowsTest, TheFocusComingIntoTheSeriesListPicksNothing) {
+    Build();
+    frmList1* page = Open();
+    page->activateWindow();
+    page->lstS->setFocus(Qt::TabFocusReason);
+    QApplication::processEvents();
+    EXPECT_EQ(page->lstM->count(), 0);
+    EXPECT_EQ(page->vsfData->rowCount(), 0);
+}
+
 TEST_F(ListWindowsTest, TheCommentFollowsTheCurrentRow) {
     Build();
     frmList1* page = Open();
@@ -346,6 +357,28 @@ TEST_F(ListWindowsTest, FinishStoresTheMotorAndTheDriverAndTheMainWindowShowsThe
     EXPECT_EQ(w->lblDriver->text(), "D2");
     EXPECT_FALSE(w->vsfMotor->item(0, 3)->text().isEmpty());  // the rating of the effective torque
     EXPECT_FALSE(w->vsfMotor->item(0, 4)->text().isEmpty());  // and its ratio
+}
+
+TEST_F(ListWindowsTest, TheSelectionIsSavedAndComesBackWithTheFile) {
+    frmList2* drivers = Next(Judged(), 3);
+    drivers->txtMotor->setText("FAIR1-X");
+    drivers->cmdDecide->click();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const QString path = QString::fromStdString(appDir.File("chosen.AP2"));
+    FileDialog_Script({path});
+    w->Action("mnuFileSaveAs")->trigger();
+    const auto ratings = ResultValues[1];
+
+    frmMain reopened;
+    FileDialog_Script({path});
+    reopened.Action("mnuFileOpen")->trigger();
+    EXPECT_EQ(MotorSelected, 1);
+    EXPECT_EQ(MotorModelText.Str(), "FAIR1-X");
+    EXPECT_EQ(DriverModelText.Str(), "D1");
+    EXPECT_EQ(ResultValues[1], ratings);
+    EXPECT_EQ(reopened.lblMotor->text(), "FAIR1-X");
+    EXPECT_EQ(reopened.lblDriver->text(), "D1");
+    EXPECT_TRUE(msg.Seen().empty());
 }
 
 TEST_F(ListWindowsTest, TheTypedModelNumberDoesNotChangeTheDriversOfTheMotor) {
