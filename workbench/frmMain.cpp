@@ -461,9 +461,13 @@ void frmMain::closeEvent(QCloseEvent* event) {
         return;
     }
     StorePosition();
+    // The other windows unload in a fixed order; each that keeps a place
+    // stores it as it goes. The wizard takes its driver page with it.
     infobox_->Unload();
     item_->Unload();
+    if (list1_) list1_->close();
     meca_->hide();
+    if (unit_->isVisible()) unit_->close();
     event->accept();
 }
 
