@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShowEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -77,13 +78,28 @@ frmPatarn::frmPatarn(std::function<int()> gridRow, std::function<void()> built, 
     connect(optRapid, &QRadioButton::clicked, this, [this] { Option_Click(false); });
     connect(cmdOK, &QPushButton::clicked, this, &frmPatarn::cmdOK_Click);
     connect(CmdCancel, &QPushButton::clicked, this, &QDialog::close);
-    optTime->setChecked(true);
-    mebAccel->setEnabled(false);
 }
 
+// A show the program asks for is an opening; one from the window system (a
+// restore after minimising) is not.
 void frmPatarn::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
+    if (!event->spontaneous()) Form_Load();
     Form_Activate();
+}
+
+// The units may have changed in the unit dialog while the builder stood aside.
+void frmPatarn::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) Form_Activate();
+}
+
+void frmPatarn::Form_Load() {
+    form_ = TrapezoidForm{};
+    Push();
+    optTime->setChecked(true);
+    mebAccelTime->setEnabled(true);
+    mebAccel->setEnabled(false);
 }
 
 void frmPatarn::Form_Activate() {
@@ -125,7 +141,6 @@ void frmPatarn::Field_Leave(QLineEdit* field) {
     else if (field == mebMoveDistance) kept = MoveDistance_Leave(form_);
     else if (field == mebAccel) kept = Accel_Leave(form_);
     else kept = AccelTime_Leave(form_);
-    form_.InputError = 0;
     Push();
     checking_ = false;
     if (!kept) QTimer::singleShot(0, field, [field] { field->setFocus(); });

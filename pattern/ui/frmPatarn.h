@@ -36,8 +36,11 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    // Every opening starts afresh: empty fields, the accel/decel time picked, no range.
+    void Form_Load();
     void Form_Activate();
     void Option_Click(bool accelTime);
     // Runs the check of a field that lost the focus; the focus goes back on a refusal.

@@ -1,4 +1,6 @@
+#include <QAbstractButton>
 #include <QAction>
+#include <QButtonGroup>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -9,6 +11,7 @@
 #include "core/Tables.h"
 #include "pattern/ui/frmPatarn.h"
 #include "tests/gui/WorkbenchFixture.h"
+#include "workbench/frmUnit.h"
 
 namespace {
 
@@ -115,4 +118,62 @@ TEST_F(TrapezoidWindowTest, TheBuilderStaysClosedBelowARowThatDoesNotEndAtRest) 
     EXPECT_FALSE(p->isVisible());
     ASSERT_EQ(msg.Seen().size(), 1u);
     EXPECT_EQ(msg.Seen()[0].text, "Trapezoid pattern cannot be input unless previous speed is 0.");
+}
+
+TEST_F(TrapezoidWindowTest, TheRightArrowMovesOnLikeEnterAndTheDistanceLeadsToThePickedField) {
+    frmMain w;
+    StartWith(w, 1);
+    frmPatarn* p = Open(w);
+    p->optRapid->click();
+    p->mebMoveTime->setFocus();
+    QTest::keyClicks(p->mebMoveTime, "1");
+    QTest::keyClick(p->mebMoveTime, Qt::Key_Right);
+    EXPECT_TRUE(p->mebMoveDistance->hasFocus());
+    QTest::keyClicks(p->mebMoveDistance, "100");
+    QTest::keyClick(p->mebMoveDistance, Qt::Key_Right);
+    EXPECT_TRUE(p->mebAccel->hasFocus());
+    QTest::keyClicks(p->mebAccel, "500");
+    QTest::keyClick(p->mebAccel, Qt::Key_Return);
+    EXPECT_TRUE(p->cmdOK->hasFocus());
+    EXPECT_TRUE(p->isVisible());  // moved to OK, not pressed
+    EXPECT_EQ(p->mebAccel->text(), "500.000");
+}
+
+TEST_F(TrapezoidWindowTest, TheBuilderOpensAfreshAfterItWasClosed) {
+    frmMain w;
+    StartWith(w, 1);
+    frmPatarn* p = Open(w);
+    Enter(p->mebMoveTime, "1");
+    Enter(p->mebMoveDistance, "100");
+    p->optRapid->click();
+    ASSERT_FALSE(p->lblMax->text().isEmpty());
+    p->CmdCancel->click();
+    ASSERT_FALSE(p->isVisible());
+    p = Open(w);
+    ASSERT_TRUE(p->isVisible());
+    EXPECT_EQ(p->mebMoveTime->text(), "");
+    EXPECT_EQ(p->mebMoveDistance->text(), "");
+    EXPECT_TRUE(p->optTime->isChecked());
+    EXPECT_TRUE(p->mebAccelTime->isEnabled());
+    EXPECT_FALSE(p->mebAccel->isEnabled());
+    EXPECT_EQ(p->lblMax->text(), "");
+}
+
+TEST_F(TrapezoidWindowTest, TheUnitLabelsFollowUnitsPickedWhileTheBuilderStoodAside) {
+    frmMain w;
+    StartWith(w, 1);
+    frmPatarn* p = Open(w);
+    ASSERT_EQ(p->lblTime[1]->text(), "s");
+    w.Action("mnuPerSet")->trigger();
+    frmUnit* u = w.UnitWindow();
+    QApplication::setActiveWindow(u);  // the user turns to the unit dialog
+    ASSERT_FALSE(p->isActiveWindow());
+    u->options[0]->button(0)->click();  // time in ms
+    u->options[2]->button(1)->click();  // operating distance in cm
+    u->cmdOK->click();
+    QApplication::setActiveWindow(p);  // and back to the builder
+    EXPECT_EQ(p->lblTime[0]->text(), "ms");
+    EXPECT_EQ(p->lblTime[1]->text(), "ms");
+    EXPECT_EQ(p->lblLength->text(), "cm");
+    EXPECT_EQ(p->lblRapid->text(), "cm/S2");
 }
