@@ -74,7 +74,11 @@ void frmUnit::Show_Picks(const UnitPicks& picks) {
         if (QAbstractButton* b = options[k]->button(picks[k])) b->setChecked(true);
 }
 
-void frmUnit::cmdStartSet_Click() { Show_Picks(kUnitDefaultSel); }
+// Setting the buttons counts as clicking them: "Apply" can take the defaults on.
+void frmUnit::cmdStartSet_Click() {
+    Show_Picks(kUnitDefaultSel);
+    cmdReNew->setEnabled(true);
+}
 
 void frmUnit::cmdReNew_Click() {
     UnitPicks picks{};

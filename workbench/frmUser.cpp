@@ -39,9 +39,7 @@ frmUser::frmUser(QWidget* parent) : QDialog(parent) {
         form->addRow(kLabels[i], boxes[i]);
     }
     cmdOK = new QPushButton("OK(&Y)", this);
-    cmdOK->setAutoDefault(false);
     CmdCancel = new QPushButton("Cancel", this);
-    CmdCancel->setAutoDefault(false);
     connect(cmdOK, &QPushButton::clicked, this, &frmUser::cmdOK_Click);
     connect(CmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* buttons = new QHBoxLayout;
@@ -53,7 +51,8 @@ frmUser::frmUser(QWidget* parent) : QDialog(parent) {
     main->addLayout(buttons);
 }
 
-// Enter moves on to the next box, and from the last to "OK" without pressing it.
+// Enter moves on to the next box, and from the last to "OK" without pressing it;
+// a further Enter presses the button that has the focus.
 bool frmUser::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();

@@ -64,6 +64,30 @@ TEST_F(DialogsTest, DefaultsThenCancelChangesNothing) {
     EXPECT_EQ(DirtyFlag, 0);
 }
 
+TEST_F(DialogsTest, DefaultsEnableApplyWhichTakesThemOn) {
+    frmMain w;
+    StartWith(w, 1);
+    ASSERT_EQ(UnitTable[6].Sel, 1);  // a fresh installation: rad/s
+    frmUnit* u = OpenUnits(w);
+    ASSERT_FALSE(u->cmdReNew->isEnabled());
+    u->cmdStartSet->click();
+    EXPECT_TRUE(u->cmdReNew->isEnabled());
+    u->cmdReNew->click();
+    EXPECT_EQ(UnitTable[6].Sel, 0);
+    EXPECT_FALSE(u->cmdReNew->isEnabled());
+}
+
+TEST_F(DialogsTest, DefaultsThenOkGiveRevolutionsPerMinuteForRotationalSpeed) {
+    frmMain w;
+    StartWith(w, 1);
+    frmUnit* u = OpenUnits(w);
+    u->cmdStartSet->click();
+    u->cmdOK->click();
+    EXPECT_FALSE(u->isVisible());
+    EXPECT_EQ(UnitTable[6].Sel, 0);
+    EXPECT_EQ(ReadFile(UnitFile_Path()), "1\r\n0\r\n0\r\n1\r\n0\r\n0\r\n0\r\n1\r\n1\r\n1\r\n1\r\n");
+}
+
 TEST_F(DialogsTest, ApplyThenCancelKeepsTheNewUnits) {
     frmMain w;
     StartWith(w, 1);
@@ -97,6 +121,18 @@ TEST_F(DialogsTest, EnterInTheMailBoxMovesToOkWithoutPressingIt) {
     EXPECT_TRUE(user.cmdOK->hasFocus());
     EXPECT_TRUE(user.isVisible());
     EXPECT_EQ(ReadFile(AppPath + "/MtrUser.dat"), "");
+}
+
+TEST_F(DialogsTest, AFurtherEnterOnOkPressesIt) {
+    frmUser user;
+    Activate(&user);
+    user.boxes[0]->setText("someone");
+    user.boxes[6]->setFocus();
+    QTest::keyClick(user.boxes[6], Qt::Key_Return);
+    ASSERT_TRUE(user.cmdOK->hasFocus());
+    QTest::keyClick(user.cmdOK, Qt::Key_Return);
+    EXPECT_FALSE(user.isVisible());
+    EXPECT_EQ(ReadFile(AppPath + "/MtrUser.dat"), "\"someone\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n");
 }
 
 TEST_F(DialogsTest, EnterWalksTheBoxesInOrder) {
