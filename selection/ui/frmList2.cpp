@@ -77,6 +77,7 @@ frmList2::frmList2(frmList1* list1, std::function<void()> decided)
     connect(cmdReverse, &QPushButton::clicked, this, &frmList2::cmdReverse_Click);
     connect(CmdCancel, &QPushButton::clicked, list1_, &frmList1::Wizard_Unload);
     resize(1100, 460);
+    Driver_Header(page_.vsfDrvList);
     vsfDrvList->Show(page_.vsfDrvList);
 }
 
@@ -88,7 +89,7 @@ void frmList2::Motor_Take(const DriverPage& chosen) {
 }
 
 void frmList2::Form_Activate() {
-    Run_Guarded(kTitle, [this] { List2_Activate(page_); });
+    skipActivation_ = !Run_Guarded(kTitle, [this] { List2_Activate(page_); });
     vsfDrvList->Show(page_.vsfDrvList);
     const QSignalBlocker quiet(vsfDrvList);
     vsfDrvList->SetGridRow(page_.Row);
@@ -118,7 +119,9 @@ void frmList2::Unload() {
 
 void frmList2::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && isVisible()) Form_Activate();
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !isVisible()) return;
+    if (skipActivation_) skipActivation_ = false;
+    else Form_Activate();
 }
 
 void frmList2::closeEvent(QCloseEvent* event) {

@@ -44,4 +44,7 @@ private:
     DriverPage page_;
     frmList1* list1_;
     std::function<void()> decided_;
+    // The activation that follows the message of a failed rebuild does not
+    // rebuild again, so the message does not come back at once for ever.
+    bool skipActivation_ = false;
 };

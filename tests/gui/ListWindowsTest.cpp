@@ -410,6 +410,34 @@ TEST_F(ListWindowsTest, ReturningToTheDriverPageRebuildsTheGridWithTheCurrentRow
     EXPECT_EQ(drivers->vsfDrvList->GridRow(), 2);
 }
 
+TEST_F(ListWindowsTest, ADriverOfAnUnknownTypeIsToldAndNotAgainOnReturningFromTheMessage) {
+    const double R = 2 * std::max(v.T1, v.T3);
+    Catalogue_Build(appDir.Path(), "INSERT INTO MotorSeriesMaster VALUES ('S', 10, 1);"
+                                   "INSERT INTO ModelMaster VALUES (10, 'G', 1);" +
+                                       Motor("OK1", 100, R, 2 * v.T2, 2 * v.N, kJm, 1e6) +
+                                       "INSERT INTO DriverTypeMaster VALUES (1, 'ok1', 'ng1', 0, 2);" +
+                                       Driver("D1", "NULL", "NULL", 1) + Driver("D9", "NULL", "NULL", 9) +
+                                       "INSERT INTO MotorDriverTable VALUES ('OK1', 'D1'), ('OK1', 'D9');");
+    frmList1* page = Open();
+    page->lstS->setCurrentRow(0);
+    frmList2* drivers = Next(page, 2);
+    ASSERT_NE(drivers, nullptr);
+    ASSERT_FALSE(msg.Seen().empty());
+    EXPECT_EQ(msg.Seen().back().text, "Subscript out of range");
+    EXPECT_EQ(msg.Seen().back().title, "Driver Selection");
+    EXPECT_EQ(drivers->vsfDrvList->CellText(2, 1), "D1");  // what was filled before the failure stays
+    drivers->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(drivers));
+    drivers->Form_Activate();
+    const std::size_t told = msg.Seen().size();
+    QEvent activation(QEvent::ActivationChange);
+    QApplication::sendEvent(drivers, &activation);  // back from the message
+    EXPECT_EQ(msg.Seen().size(), told);
+    QApplication::sendEvent(drivers, &activation);  // a later return rebuilds, and tells again
+    EXPECT_EQ(msg.Seen().size(), told + 1);
+    EXPECT_TRUE(drivers->isVisible());
+}
+
 TEST_F(ListWindowsTest, BackShowsTheMotorPageWithItsGridAsItWas) {
     frmList1* page = Judged();
     frmList2* drivers = Next(page, 3);
