@@ -1,7 +1,6 @@
 #include "workbench/frmUnit.h"
 
 #include <QButtonGroup>
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -59,9 +58,9 @@ void frmUnit::showEvent(QShowEvent* event) {
     Form_Load();
 }
 
-void frmUnit::closeEvent(QCloseEvent* event) {
+void frmUnit::done(int result) {
     Window_Save(this, kUnitWindowKeys);
-    QDialog::closeEvent(event);
+    QDialog::done(result);
 }
 
 void frmUnit::Form_Load() {

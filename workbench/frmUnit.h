@@ -30,7 +30,8 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
+    // Every way out (OK, Cancel, the close box, Escape) stores the place.
+    void done(int result) override;
 
 private:
     void Form_Load();

@@ -149,6 +149,19 @@ TEST_F(WindowPlaceTest, ClosingTheMainWindowUnloadsTheUnitWindowWithItsPlace) {
     EXPECT_EQ(Stored("UnitTop"), "2100");
 }
 
+TEST_F(WindowPlaceTest, EscapeInTheUnitWindowStoresItsPlaceToo) {
+    frmMain w;
+    w.show();
+    w.Action("mnuPerSet")->trigger();
+    frmUnit* units = w.UnitWindow();
+    ASSERT_TRUE(units->isVisible());
+    units->move(210, 120);
+    QTest::keyClick(units, Qt::Key_Escape);
+    EXPECT_FALSE(units->isVisible());
+    EXPECT_EQ(Stored("UnitLeft"), "3150");
+    EXPECT_EQ(Stored("UnitTop"), "1800");
+}
+
 TEST_F(WindowPlaceTest, ClosingTheMainWindowUnloadsTheWizardWithItsPlace) {
     frmMain w;
     StartWith(w, 1);
