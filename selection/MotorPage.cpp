@@ -90,12 +90,16 @@ void vsfData_RowChange(MotorPage& page, int row) {
     if (row >= kFixedRows && row <= MotorRowCount + 1) page.lblComment = MotorCommentList[row - 1];
 }
 
-void cmdJudge_Click(MotorPage& page) {
-    if (page.lstSIndex < 0 || page.lstMIndex < 0) return;
+bool cmdJudge_Click(MotorPage& page) {
+    if (page.lstSIndex < 0 || page.lstMIndex < 0) return false;
     std::copy_n(Patarn.begin(), kPatarnRows + 1, PatarnTrial.begin());
     if (MotorRecordset.RecordCount() > 0) MotorRecordset.MoveFirst();
-    if (PatternRowCount == 0) return Mark_NoPattern(page.vsfData);
+    if (PatternRowCount == 0) {
+        Mark_NoPattern(page.vsfData);
+        return false;
+    }
     Judge_Rows(page.vsfData);
+    return true;
 }
 
 bool cmdNext_Click(const MotorPage& page, DriverPage& next) {

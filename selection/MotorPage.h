@@ -39,8 +39,10 @@ void lstM_Click(MotorPage& page, int index);
 // Moves the current row; lblComment follows.
 void vsfData_RowChange(MotorPage& page, int row);
 
-// "Judgement": judges every motor of the grid on PatarnTrial.
-void cmdJudge_Click(MotorPage& page);
+// "Judgement": judges every motor of the grid on PatarnTrial. True when
+// the motors were judged; without a pick nothing happens, and without a
+// pattern every motor is marked "NA" and the judgement ends there.
+bool cmdJudge_Click(MotorPage& page);
 
 // "Next >": takes the motor of the current row on as the candidate and
 // shows it on the driver page; false, after the message, when no motor is

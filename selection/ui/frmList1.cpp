@@ -13,6 +13,7 @@
 #include "selection/DriverPage.h"
 #include "selection/mdlDataBase.h"
 #include "selection/ui/GridView.h"
+#include "selection/ui/WizardButton.h"
 #include "selection/ui/frmList2.h"
 #include "workbench/QtSettingsStore.h"
 
@@ -53,17 +54,12 @@ frmList1::frmList1(std::function<void()> decided, QWidget* parent)
     lblComment->setFrameShadow(QFrame::Sunken);
     lblComment->setWordWrap(true);
     lblComment->setMinimumHeight(2 * fontMetrics().height() + 6);
-    auto button = [this](const char* name, const QString& caption) {
-        auto* b = new QPushButton(caption, this);
-        b->setObjectName(name);
-        return b;
-    };
-    cmdJudge = button("cmdJudge", "Judgement");
-    CmdPrint = button("CmdPrint", "Print");
+    cmdJudge = Wizard_Button(this, "cmdJudge", "Judgement");
+    CmdPrint = Wizard_Button(this, "CmdPrint", "Print");
     CmdPrint->setEnabled(false);  // the series list print dialog comes with the reports
-    cmdReverce = button("cmdReverce", "< Back(&B)");
-    cmdNext = button("cmdNext", "Next >");
-    CmdCancel = button("CmdCancel", "Cancel");
+    cmdReverce = Wizard_Button(this, "cmdReverce", "< Back(&B)");
+    cmdNext = Wizard_Button(this, "cmdNext", "Next >");
+    CmdCancel = Wizard_Button(this, "CmdCancel", "Cancel");
 
     auto* lists = new QGridLayout;
     lists->addWidget(Buddy("Series(&S)", lstS, this), 0, 0);
@@ -132,9 +128,10 @@ void frmList1::lstM_Click(int index) {
 }
 
 void frmList1::cmdJudge_Click() {
-    Run_Guarded(std::string(kTitleMotorSelection), [this] { ::cmdJudge_Click(page_); });
+    bool judged = false;
+    Run_Guarded(std::string(kTitleMotorSelection), [&] { judged = ::cmdJudge_Click(page_); });
     Disp_Page();
-    vsfData->setFocus();
+    if (judged) vsfData->setFocus();
 }
 
 void frmList1::cmdNext_Click() {

@@ -12,6 +12,7 @@
 #include "common/ui/RunGuarded.h"
 #include "core/Tables.h"
 #include "selection/ui/GridView.h"
+#include "selection/ui/WizardButton.h"
 #include "selection/ui/frmList1.h"
 #include "workbench/QtSettingsStore.h"
 
@@ -37,14 +38,9 @@ frmList2::frmList2(frmList1* list1, std::function<void()> decided)
     txtMotor->setMaxLength(static_cast<int>(MotorModelText.Raw().size()));
     vsfDrvList = new GridView(kDriverColumns, this);
     vsfDrvList->setObjectName("vsfDrvList");
-    auto button = [this](const char* name, const QString& caption) {
-        auto* b = new QPushButton(caption, this);
-        b->setObjectName(name);
-        return b;
-    };
-    cmdReverse = button("cmdReverse", "< Back(&B)");
-    cmdDecide = button("cmdDecide", "Finish");
-    CmdCancel = button("CmdCancel", "Cancel");
+    cmdReverse = Wizard_Button(this, "cmdReverse", "< Back(&B)");
+    cmdDecide = Wizard_Button(this, "cmdDecide", "Finish");
+    CmdCancel = Wizard_Button(this, "CmdCancel", "Cancel");
 
     auto* motor = new QGridLayout;
     motor->addWidget(new QLabel("Selected motor", this), 0, 0);

@@ -97,6 +97,14 @@ protected:
         return drivers;
     }
 
+    // The window becomes the active one, as a click on it makes it.
+    static void Activate(QWidget* window) {
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        QApplication::processEvents();
+        ASSERT_EQ(QApplication::activeWindow(), window);
+    }
+
     static void ExpectCell(const GridView* grid, int row, int col, const QString& text, bool bold,
                            const QColor& color) {
         EXPECT_EQ(grid->CellText(row, col), text) << "row " << row << " col " << col;
@@ -401,11 +409,14 @@ TEST_F(ListWindowsTest, AMotorWithoutDriversGivesAnEmptyGridAndFinishRefuses) {
     EXPECT_TRUE(drivers->isVisible());
 }
 
-TEST_F(ListWindowsTest, ReturningToTheDriverPageRebuildsTheGridWithTheCurrentRowAtTwo) {
+TEST_F(ListWindowsTest, ReturningFromTheMainWindowToTheDriverPageRebuildsTheGridWithTheCurrentRowAtTwo) {
     frmList2* drivers = Next(Judged(), 2);
+    Activate(drivers);
     drivers->vsfDrvList->SetGridRow(4);
     drivers->vsfDrvList->item(0, 0)->setText("stale");
-    drivers->Form_Activate();
+    Activate(w.get());
+    EXPECT_EQ(drivers->vsfDrvList->CellText(2, 0), "stale");
+    Activate(drivers);
     EXPECT_EQ(drivers->vsfDrvList->CellText(2, 0), "OK");
     EXPECT_EQ(drivers->vsfDrvList->GridRow(), 2);
 }
@@ -496,14 +507,89 @@ TEST_F(ListWindowsTest, BothPagesShareTheStoredPosition) {
 }
 
 TEST_F(ListWindowsTest, TheFirstActivationLeavesTheFocusAndLaterOnesGiveItToTheGrid) {
-    frmList1* page = Judged();
-    page->lstS->setFocus();
-    page->WizardOpening = 1;
-    page->Form_Activate();
+    Build();
+    frmList1* page = Open();
+    Activate(page);
     EXPECT_EQ(page->WizardOpening, 0);
-    EXPECT_NE(page->focusWidget(), page->vsfData);
-    page->Form_Activate();
+    EXPECT_EQ(page->focusWidget(), page->lstS);
+    Activate(w.get());
+    Activate(page);
     EXPECT_EQ(page->focusWidget(), page->vsfData);
+}
+
+TEST_F(ListWindowsTest, JudgementWithoutAPickOrWithoutAPatternLeavesTheFocusOnTheButton) {
+    Build();
+    frmList1* page = Open();
+    page->cmdJudge->setFocus();
+    page->cmdJudge->click();  // no series picked: nothing happens
+    EXPECT_EQ(page->focusWidget(), page->cmdJudge);
+    page->lstS->setCurrentRow(0);
+    PatternRowCount = 0;  // the pattern was emptied in the main window meanwhile
+    page->cmdJudge->setFocus();
+    page->cmdJudge->click();
+    EXPECT_EQ(page->vsfData->CellText(2, 0), "NA");
+    EXPECT_EQ(page->focusWidget(), page->cmdJudge);
+    PatternRowCount = 2;
+    page->cmdJudge->click();
+    EXPECT_EQ(page->vsfData->CellText(2, 0), "OK");
+    EXPECT_EQ(page->focusWidget(), page->vsfData);
+}
+
+TEST_F(ListWindowsTest, EnterPressesTheButtonThatHasTheFocusOnEitherPage) {
+    Build();
+    frmList1* page = Open();
+    page->lstS->setCurrentRow(0);
+    page->cmdJudge->setFocus();
+    QTest::keyClick(page->cmdJudge, Qt::Key_Return);
+    EXPECT_EQ(page->vsfData->CellText(2, 0), "OK");
+    page->cmdNext->setFocus();
+    QTest::keyClick(page->cmdNext, Qt::Key_Enter);
+    frmList2* drivers = page->List2();
+    ASSERT_NE(drivers, nullptr);
+    EXPECT_TRUE(drivers->isVisible());
+    drivers->cmdReverse->setFocus();
+    QTest::keyClick(drivers->cmdReverse, Qt::Key_Return);
+    EXPECT_TRUE(page->isVisible());
+    EXPECT_FALSE(drivers->isVisible());
+}
+
+TEST_F(ListWindowsTest, TheMnemonicsOfTheMotorPageReachTheListsAndPressBack) {
+    Build();
+    frmList1* page = Open();
+    Activate(page);
+    page->cmdNext->setFocus();
+    QTest::keyClick(page, Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(page->focusWidget(), page->lstS);
+    EXPECT_EQ(page->lstM->count(), 0);  // the focus alone picks no series
+    QTest::keyClick(page, Qt::Key_D, Qt::AltModifier);
+    EXPECT_EQ(page->focusWidget(), page->lstM);
+    QTest::keyClick(page, Qt::Key_B, Qt::AltModifier);
+    EXPECT_TRUE(page->cmdReverce->isDown());
+}
+
+TEST_F(ListWindowsTest, TheMnemonicsOfTheDriverPageReachTheGridAndPressBack) {
+    frmList2* drivers = Next(Judged(), 2);
+    Activate(drivers);
+    drivers->txtMotor->setFocus();
+    QTest::keyClick(drivers, Qt::Key_D, Qt::AltModifier);
+    EXPECT_EQ(drivers->focusWidget(), drivers->vsfDrvList);
+    QTest::keyClick(drivers, Qt::Key_B, Qt::AltModifier);
+    EXPECT_TRUE(drivers->cmdReverse->isDown());
+}
+
+TEST_F(ListWindowsTest, TabWalksEachPageInTheOrderOfItsControls) {
+    frmList1* page = Judged();
+    std::vector<QWidget*> walked;
+    for (QWidget* at = page->lstS; walked.size() < 8; at = at->nextInFocusChain())
+        if (at->focusPolicy() & Qt::TabFocus) walked.push_back(at);
+    EXPECT_EQ(walked, (std::vector<QWidget*>{page->lstS, page->lstM, page->vsfData, page->cmdJudge, page->CmdPrint,
+                                             page->cmdReverce, page->cmdNext, page->CmdCancel}));
+    frmList2* drivers = Next(page, 2);
+    walked.clear();
+    for (QWidget* at = drivers->txtMotor; walked.size() < 5; at = at->nextInFocusChain())
+        if (at->focusPolicy() & Qt::TabFocus) walked.push_back(at);
+    EXPECT_EQ(walked, (std::vector<QWidget*>{drivers->txtMotor, drivers->vsfDrvList, drivers->cmdReverse,
+                                             drivers->cmdDecide, drivers->CmdCancel}));
 }
 
 TEST_F(ListWindowsTest, TheGridsFollowTheWindowsSize) {

@@ -94,7 +94,7 @@ TEST_F(MotorPageTest, BlankCapacitySortsFirstAndLeavesItsCellEmpty) {
 TEST_F(MotorPageTest, JudgementGivesOkFairNgAndDash) {
     Open(Kept("A-ok", 100) + Kept("B-fair", 200, v.T1 / 0.9) + Kept("C-ng", 300, v.T1 / 1.1) +
          Motor("D-none", 400, 0, 0, 0, 0, 0));
-    cmdJudge_Click(page);
+    EXPECT_TRUE(cmdJudge_Click(page));
     EXPECT_EQ(Verdict(2), "OK");
     EXPECT_EQ(Verdict(3), "FAIR");
     EXPECT_EQ(page.vsfData.Cell(3, 0).color, kColorOrange);
@@ -139,7 +139,7 @@ TEST_F(MotorPageTest, LoadInertiaThatCannotBeComputedCountsAsZero) {
 TEST_F(MotorPageTest, NoPatternGivesNa) {
     Open(Kept("A", 100) + Kept("B", 200));
     PatternRowCount = 0;
-    cmdJudge_Click(page);
+    EXPECT_FALSE(cmdJudge_Click(page));  // the judgement ends with the marks
     EXPECT_EQ(Verdict(2), "NA");
     EXPECT_EQ(Verdict(3), "NA");
     EXPECT_TRUE(page.vsfData.Cell(3, 0).bold);
@@ -148,7 +148,7 @@ TEST_F(MotorPageTest, NoPatternGivesNa) {
 TEST_F(MotorPageTest, NoPickJudgesNothing) {
     Build("INSERT INTO MotorSeriesMaster VALUES ('S', 10, 1);");
     List1_Load(page);
-    cmdJudge_Click(page);
+    EXPECT_FALSE(cmdJudge_Click(page));
     EXPECT_EQ(page.vsfData.Rows(), 2);
 }
 
