@@ -37,6 +37,16 @@ protected:
         QTest::keyClick(field, Qt::Key_Return);
         QApplication::processEvents();
     }
+
+    // The state of every opening: empty fields, the accel/decel time picked, no range label.
+    static void ExpectFresh(const frmPatarn* p) {
+        EXPECT_EQ(p->mebMoveTime->text(), "");
+        EXPECT_EQ(p->mebMoveDistance->text(), "");
+        EXPECT_TRUE(p->optTime->isChecked());
+        EXPECT_TRUE(p->mebAccelTime->isEnabled());
+        EXPECT_FALSE(p->mebAccel->isEnabled());
+        EXPECT_EQ(p->lblMax->text(), "");
+    }
 };
 
 }  // namespace
@@ -50,9 +60,7 @@ TEST_F(TrapezoidWindowTest, TheLabelsShowThePickedUnits) {
     EXPECT_EQ(p->lblTime[0]->text(), "s");
     EXPECT_EQ(p->lblLength->text(), "mm");
     EXPECT_EQ(p->lblRapid->text(), "mm/S2");
-    EXPECT_TRUE(p->optTime->isChecked());
-    EXPECT_FALSE(p->mebAccel->isEnabled());
-    EXPECT_EQ(p->lblMax->text(), "");
+    ExpectFresh(p);
 }
 
 TEST_F(TrapezoidWindowTest, AMoveTypedThroughTheFieldsFillsTheGridAndCloses) {
@@ -151,12 +159,7 @@ TEST_F(TrapezoidWindowTest, TheBuilderOpensAfreshAfterItWasClosed) {
     ASSERT_FALSE(p->isVisible());
     p = Open(w);
     ASSERT_TRUE(p->isVisible());
-    EXPECT_EQ(p->mebMoveTime->text(), "");
-    EXPECT_EQ(p->mebMoveDistance->text(), "");
-    EXPECT_TRUE(p->optTime->isChecked());
-    EXPECT_TRUE(p->mebAccelTime->isEnabled());
-    EXPECT_FALSE(p->mebAccel->isEnabled());
-    EXPECT_EQ(p->lblMax->text(), "");
+    ExpectFresh(p);
 }
 
 TEST_F(TrapezoidWindowTest, TheUnitLabelsFollowUnitsPickedWhileTheBuilderStoodAside) {
