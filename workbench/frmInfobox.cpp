@@ -13,11 +13,10 @@
 #include <QVBoxLayout>
 
 #include "base/Cp1252.h"
-#include "base/MsgBox.h"
-#include "base/RuntimeError.h"
 #include "commands/ItemCommands.h"
 #include "common/ui/ColumnFit.h"
 #include "common/ui/EditorDetach.h"
+#include "common/ui/RunGuarded.h"
 #include "core/Catalogue.h"
 #include "core/DirectInput.h"
 #include "core/ItemEdit.h"
@@ -287,11 +286,7 @@ void frmInfobox::cboElement_Select(int index) {
 void frmInfobox::cboElement_click() {
     const int index = cboElement->currentIndex();
     if (index < 0) return;
-    try {
-        Item_Select(static_cast<int16_t>(index + 1));
-    } catch (const RuntimeError& e) {
-        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
-    }
+    Run_Guarded("Torvane", [index] { Item_Select(static_cast<int16_t>(index + 1)); });
     if (selected_) selected_();
     const ElementRecord& e = Element[SelectedElement];
     Check_Set(e.ElementType, e.InputMode);
@@ -313,11 +308,7 @@ void frmInfobox::Check1_Click() {
     int row = GridRow();
     const bool on = Check1->isChecked();
     const bool wasDirect = Element[SelectedElement].InputMode == 1;
-    try {
-        Item_DirectInertia(SelectedElement, on);
-    } catch (const RuntimeError& e) {
-        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
-    }
+    Run_Guarded("Torvane", [on] { Item_DirectInertia(SelectedElement, on); });
     if (on) {
         Check2->setEnabled(false);
         row = kItemGridRows;
@@ -335,11 +326,7 @@ void frmInfobox::Check2_Click() {
     vsfElement->setUpdatesEnabled(false);
     const bool on = Check2->isChecked();
     const bool wasDirect = Element[SelectedElement].InputMode == 2;
-    try {
-        Item_DirectMass(SelectedElement, on);
-    } catch (const RuntimeError& e) {
-        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
-    }
+    Run_Guarded("Torvane", [on] { Item_DirectMass(SelectedElement, on); });
     if (on) {
         Check1->setEnabled(false);
     } else if (wasDirect) {
@@ -353,13 +340,8 @@ void frmInfobox::Check2_Click() {
 
 bool frmInfobox::AfterEdit(int gridRow, QString& text) {
     std::string t = Utf8_ToCp1252(text.toStdString());
-    bool stored = false;
-    try {
-        stored = Item_Edit(SelectedElement, gridRow, t, Check1->isChecked());
-    } catch (const RuntimeError& e) {
-        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
-        stored = true;  // stored before the calculation failed
-    }
+    bool stored = true;  // a failed calculation comes after the store
+    Run_Guarded("Torvane", [&] { stored = Item_Edit(SelectedElement, gridRow, t, Check1->isChecked()); });
     if (!stored) return false;
     text = Text(t);
     vsfElement->item(gridRow - 1, 2)->setText(text);

@@ -13,9 +13,8 @@
 #include <QVBoxLayout>
 
 #include "base/Cp1252.h"
-#include "base/MsgBox.h"
-#include "base/RuntimeError.h"
 #include "commands/ChainCommands.h"
+#include "common/ui/RunGuarded.h"
 #include "core/Catalogue.h"
 #include "core/Palette.h"
 #include "core/Tables.h"
@@ -116,11 +115,9 @@ void frmItem::picElement_GotFocus(int index) {
 void frmItem::picElement_DblClick(int index) {
     if (index < 0 || index >= kPaletteCells || txtElement[index]->text().isEmpty()) return;
     const int16_t type = Palette_Type(ItemTab, index);
-    try {
-        if (!Chain_Append(type)) return;
-    } catch (const RuntimeError& e) {
-        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
-    }
+    bool appended = true;  // a failed recalculation comes after the append
+    Run_Guarded("Torvane", [&] { appended = Chain_Append(type); });
+    if (!appended) return;
     picElement_GotFocus(index);
     if (seams_.refresh) seams_.refresh();
     if (ElementCount > 8 && seams_.selectInList) seams_.selectInList(ElementCount - 2);

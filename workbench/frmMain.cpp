@@ -16,11 +16,11 @@
 #include <QVBoxLayout>
 
 #include "base/MsgBox.h"
-#include "base/RuntimeError.h"
 #include "calc/mdlCulcurate.h"
 #include "commands/ChainCommands.h"
 #include "commands/PatternCommands.h"
 #include "common/ui/EditorDetach.h"
+#include "common/ui/RunGuarded.h"
 #include "core/Activation.h"
 #include "core/Catalogue.h"
 #include "core/Document.h"
@@ -237,12 +237,7 @@ void frmMain::BuildToolBar() {
 
 void frmMain::RunCommand(const std::function<void()>& command) {
     Picture1->setFocus();
-    try {
-        command();
-    } catch (const RuntimeError& e) {
-        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
-        Disp_Refresh();
-    }
+    if (!Run_Guarded("Torvane", command)) Disp_Refresh();
 }
 
 void frmMain::Disp_Reset() {
@@ -447,11 +442,7 @@ void frmMain::Form_Activate() {
     seams.recalculate = [] { Culcurate_All(); };
     seams.refresh = [this] { Disp_Loaded(); };
     seams.setUnitRow = [this] { Disp_Headers(); };
-    try {
-        Main_Activate(seams);
-    } catch (const RuntimeError& e) {
-        MsgBox(e.what(), "Torvane", MsgIcon::Critical);
-    }
+    Run_Guarded("Torvane", [&seams] { Main_Activate(seams); });
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
@@ -486,11 +477,9 @@ void frmMain::mnuDelete1_Click() {
 
 void frmMain::vsfPatarn_AfterEdit(int row, int col) {
     const std::string text = vsfPatarn->CellText(vsfPatarn->GridRow(), vsfPatarn->GridCol());
-    try {
-        if (!Patarn_AfterEdit(row, col, text, vsfPatarn->EscapePending)) return;
-    } catch (const RuntimeError& e) {
-        MsgBox(e.what(), "Operating Pattern", MsgIcon::Critical);
-    }
+    bool stored = true;  // a failed recalculation comes after the store
+    Run_Guarded("Operating Pattern", [&] { stored = Patarn_AfterEdit(row, col, text, vsfPatarn->EscapePending); });
+    if (!stored) return;
     vsfPatarn->Disp_Patarn();
     picCirclePatarn->Disp_Graph(Patarn, PatternRowCount);
     picTorquePatarn->Disp_Graph(Patarn, PatternRowCount);

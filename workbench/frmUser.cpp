@@ -10,6 +10,7 @@
 #include "base/Cp1252.h"
 #include "base/MsgBox.h"
 #include "base/RuntimeError.h"
+#include "common/ui/RunGuarded.h"
 
 namespace {
 
@@ -71,11 +72,6 @@ bool frmUser::eventFilter(QObject* watched, QEvent* event) {
 void frmUser::cmdOK_Click() {
     AdminTexts texts;
     for (int i = 0; i < kAdminLines; ++i) texts[i] = Utf8_ToCp1252(boxes[i]->text().toStdString());
-    try {
-        MtrUser_Write(texts);
-    } catch (const RuntimeError& e) {
-        MsgBox(e.what(), "Administrator Information", MsgIcon::Critical);
-        return;
-    }
+    if (!Run_Guarded("Administrator Information", [&texts] { MtrUser_Write(texts); })) return;
     accept();
 }

@@ -3,12 +3,14 @@
 #include "base/MsgBox.h"
 #include "base/RuntimeError.h"
 
-bool Run_Guarded(const std::string& title, const std::function<void()>& command) {
+#include <string>
+
+bool Run_Guarded(std::string_view title, const std::function<void()>& command) {
     try {
         command();
         return true;
     } catch (const RuntimeError& e) {
-        MsgBox(e.what(), title, MsgIcon::Critical);
+        MsgBox(e.what(), std::string(title), MsgIcon::Critical);
         return false;
     }
 }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <functional>
-#include <string>
+#include <string_view>
 
 // True when the command ran to its end.
-bool Run_Guarded(const std::string& title, const std::function<void()>& command);
+bool Run_Guarded(std::string_view title, const std::function<void()>& command);

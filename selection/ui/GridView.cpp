@@ -26,8 +26,6 @@ QColor Color(std::string_view number, const QPalette& palette) {
     return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
 }
 
-QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
-
 // The current row is marked by a light background under which every text
 // keeps its verdict colour.
 class KeepColours : public QStyledItemDelegate {
@@ -73,13 +71,14 @@ void GridView::Show(const Grid& grid) {
     clearContents();
     setRowCount(grid.Rows() - kFixedRows);
     for (int col = 0; col < grid.Cols(); ++col) {
-        const QString caption = Text(grid.Cell(0, col).text) + "\n" + Text(grid.Cell(1, col).text);
+        const QString caption =
+            QString::fromStdString(grid.Cell(0, col).text) + "\n" + QString::fromStdString(grid.Cell(1, col).text);
         setHorizontalHeaderItem(col, new QTableWidgetItem(caption));
     }
     for (int row = kFixedRows; row < grid.Rows(); ++row) {
         for (int col = 0; col < grid.Cols(); ++col) {
             const GridCell& cell = grid.Cell(row, col);
-            auto* item = new QTableWidgetItem(Text(cell.text));
+            auto* item = new QTableWidgetItem(QString::fromStdString(cell.text));
             item->setToolTip(item->text());  // a long comment shows whole under the pointer
             item->setTextAlignment(Alignment(columns_[col].align));
             QFont font = item->font();

@@ -19,12 +19,10 @@
 
 namespace {
 
-QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
-
 void Fill(QListWidget* list, const std::vector<std::string>& names, int index) {
     const QSignalBlocker quiet(list);
     list->clear();
-    for (const std::string& name : names) list->addItem(Text(name));
+    for (const std::string& name : names) list->addItem(QString::fromStdString(name));
     list->setCurrentRow(index);
 }
 
@@ -39,7 +37,7 @@ QLabel* Buddy(const QString& caption, QWidget* buddy, QWidget* parent) {
 frmList1::frmList1(std::function<void()> decided, QWidget* parent)
     : QWidget(parent, Qt::Window), decided_(std::move(decided)) {
     setObjectName("frmList1");
-    setWindowTitle(Text(std::string(kTitleMotorSelection)));
+    setWindowTitle(QString::fromUtf8(kTitleMotorSelection));
     setAttribute(Qt::WA_DeleteOnClose);
 
     lstS = new QListWidget(this);
@@ -90,7 +88,7 @@ frmList1::frmList1(std::function<void()> decided, QWidget* parent)
     });
     vsfData->onRowChange = [this](int row) {
         vsfData_RowChange(page_, row);
-        lblComment->setText(Text(page_.lblComment));
+        lblComment->setText(QString::fromStdString(page_.lblComment));
     };
     connect(cmdJudge, &QPushButton::clicked, this, &frmList1::cmdJudge_Click);
     connect(cmdNext, &QPushButton::clicked, this, &frmList1::cmdNext_Click);
@@ -102,7 +100,7 @@ frmList1::frmList1(std::function<void()> decided, QWidget* parent)
 
 void frmList1::Form_Load() {
     Window_Restore(this, kListWindowKeys);
-    Run_Guarded(std::string(kTitleMotorSelection), [this] { List1_Load(page_); });
+    Run_Guarded(kTitleMotorSelection, [this] { List1_Load(page_); });
     Disp_Page();
 }
 
@@ -114,22 +112,22 @@ void frmList1::Disp_Page() {
         const QSignalBlocker quiet(vsfData);
         vsfData->SetGridRow(page_.Row);
     }
-    lblComment->setText(Text(page_.lblComment));
+    lblComment->setText(QString::fromStdString(page_.lblComment));
 }
 
 void frmList1::lstS_Click(int index) {
-    Run_Guarded(std::string(kTitleMotorSelection), [&] { ::lstS_Click(page_, index); });
+    Run_Guarded(kTitleMotorSelection, [&] { ::lstS_Click(page_, index); });
     Disp_Page();
 }
 
 void frmList1::lstM_Click(int index) {
-    Run_Guarded(std::string(kTitleMotorSelection), [&] { ::lstM_Click(page_, index); });
+    Run_Guarded(kTitleMotorSelection, [&] { ::lstM_Click(page_, index); });
     Disp_Page();
 }
 
 void frmList1::cmdJudge_Click() {
     bool judged = false;
-    Run_Guarded(std::string(kTitleMotorSelection), [&] { judged = ::cmdJudge_Click(page_); });
+    Run_Guarded(kTitleMotorSelection, [&] { judged = ::cmdJudge_Click(page_); });
     Disp_Page();
     if (judged) vsfData->setFocus();
 }
@@ -137,7 +135,7 @@ void frmList1::cmdJudge_Click() {
 void frmList1::cmdNext_Click() {
     DriverPage chosen;
     bool taken = false;
-    Run_Guarded(std::string(kTitleMotorSelection), [&] { taken = ::cmdNext_Click(page_, chosen); });
+    Run_Guarded(kTitleMotorSelection, [&] { taken = ::cmdNext_Click(page_, chosen); });
     if (!taken) return;
     if (!list2_) list2_ = new frmList2(this, decided_);
     list2_->Motor_Take(chosen);

@@ -20,14 +20,12 @@ namespace {
 
 const std::string kTitle = "Driver Selection";
 
-QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
-
 }  // namespace
 
 frmList2::frmList2(frmList1* list1, std::function<void()> decided)
     : QWidget(list1->parentWidget(), Qt::Window), list1_(list1), decided_(std::move(decided)) {
     setObjectName("frmList2");
-    setWindowTitle(Text(kTitle));
+    setWindowTitle(QString::fromStdString(kTitle));
 
     lblMotor = new QLabel(this);
     lblMotor->setObjectName("lblMotor");
@@ -80,8 +78,8 @@ frmList2::frmList2(frmList1* list1, std::function<void()> decided)
 void frmList2::Motor_Take(const DriverPage& chosen) {
     page_.lblMotor = chosen.lblMotor;
     page_.txtMotor = chosen.txtMotor;
-    lblMotor->setText(Text(page_.lblMotor));
-    txtMotor->setText(Text(page_.txtMotor));
+    lblMotor->setText(QString::fromStdString(page_.lblMotor));
+    txtMotor->setText(QString::fromStdString(page_.txtMotor));
 }
 
 void frmList2::Form_Activate() {
