@@ -65,7 +65,11 @@ double Round_Even(double x) { return std::nearbyint(x); }
 
 int16_t CInt(std::string_view text) {
     if (!IsNumeric(text)) throw RuntimeError("Type mismatch");
-    const double r = Round_Even(Val(text));
+    return CInt(Val(text));
+}
+
+int16_t CInt(double value) {
+    const double r = Round_Even(value);
     if (!(r >= -32768.0 && r <= 32767.0)) throw RuntimeError("Overflow");
     return static_cast<int16_t>(r);
 }

@@ -21,5 +21,10 @@ double Round_Even(double x);
 // the text is no number ("Type mismatch") or the number does not fit ("Overflow").
 int16_t CInt(std::string_view text);
 
+// A 16-bit integer from a number read from outside (a catalogue field, a row
+// count), rounded ties to even. Throws RuntimeError "Overflow" when it does
+// not fit, NaN and the infinities included.
+int16_t CInt(double value);
+
 // Equality in single precision: the difference, rounded to float, below 1e-5.
 bool Same_Single(double a, double b);

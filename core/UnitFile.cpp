@@ -1,10 +1,16 @@
 #include "core/UnitFile.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <array>
+#include <filesystem>
 #include <fstream>
+#include <sstream>
 
 #include "base/MsgBox.h"
 #include "base/Numeric.h"
+#include "base/ReadFile.h"
 #include "base/RuntimeError.h"
 #include "core/Tables.h"
 #include "units/UnitTable.h"
@@ -15,6 +21,16 @@ void SetPicks(const std::array<int16_t, kUnitCategories>& picks) {
     for (int k = 0; k < kUnitCategories; ++k) UnitTable[k].Sel = picks[k];
 }
 
+// Eleven short lines; a longer file is read this far.
+constexpr std::size_t kFileBytes = 65536;
+
+// Opening for appending creates the file when it is missing. Something
+// there that is no regular file (a folder, a FIFO) is left alone.
+void Touch(const std::string& path) {
+    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
+    if (fd >= 0) ::close(fd);
+}
+
 }  // namespace
 
 std::string UnitFile_Path() { return AppPath + "/UnitInfo.dat"; }
@@ -22,12 +38,13 @@ std::string UnitFile_Path() { return AppPath + "/UnitInfo.dat"; }
 void Unit_Load() {
     Unit_SetNames();
     const std::string path = UnitFile_Path();
-    { std::ofstream touch(path, std::ios::app); }
-    std::ifstream in(path, std::ios::binary);
-    if (!in || in.peek() == std::ifstream::traits_type::eof()) {
+    Touch(path);
+    std::string bytes;
+    if (!File_ReadPrefix(path, kFileBytes, bytes) || bytes.empty()) {
         SetPicks(kUnitFreshSel);
         return;
     }
+    std::istringstream in(bytes);
     std::array<int16_t, kUnitCategories> picks{};
     for (int k = 0; k < kUnitCategories; ++k) {
         std::string line;
@@ -41,6 +58,10 @@ void Unit_Load() {
 
 void Unit_Save() {
     const std::string path = UnitFile_Path();
+    std::error_code ec;
+    const auto kind = std::filesystem::status(path, ec).type();
+    if (kind != std::filesystem::file_type::not_found && kind != std::filesystem::file_type::regular)
+        throw RuntimeError("Path/File access error: " + path);
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     for (const UnitCategory& c : UnitTable) out << c.Sel << "\r\n";
     out.flush();

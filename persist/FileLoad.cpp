@@ -1,7 +1,5 @@
-#include <fstream>
-#include <iterator>
-
 #include "base/MsgBox.h"
+#include "base/ReadFile.h"
 #include "base/RuntimeError.h"
 #include "calc/mdlCulcurate.h"
 #include "core/Document.h"
@@ -9,6 +7,7 @@
 #include "core/Text.h"
 #include "core/UnitFile.h"
 #include "pattern/PatarnRows.h"
+#include "persist/AppFileLayout.h"
 #include "persist/FileRead.h"
 #include "persist/mdlFile.h"
 
@@ -16,14 +15,6 @@ namespace {
 
 void Call(const std::function<void()>& f) {
     if (f) f();
-}
-
-// The whole file; false when it cannot be opened or read.
-bool Read_Whole(const std::string& path, std::string& bytes) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) return false;
-    bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-    return !in.bad();
 }
 
 // A step after the reading that may fail with a run-time error (writing
@@ -53,9 +44,13 @@ bool File_Load(const std::string& path, const FileLoadSeams& seams) {
     Disp_Reset();
     Call(seams.resetDisplay);
 
+    // No layout is longer than the current one: a longer file is read as far
+    // as the layout goes, and a device or a huge file is never read to its end.
     std::string bytes;
-    const FileReadResult result = Read_Whole(path, bytes) ? File_Read(bytes) : FileReadResult::Failed;
+    const FileReadResult result =
+        File_ReadPrefix(path, kCurrentFileBytes, bytes) ? File_Read(bytes) : FileReadResult::Failed;
     if (result == FileReadResult::Failed) MsgBox("File read failed.", "Open", MsgIcon::Exclamation);
+    UnreadFile = result == FileReadResult::Read ? std::string() : path;
 
     if (MotorSelected == 1) Selected_FromMotor();
     DocumentNamed = 1;

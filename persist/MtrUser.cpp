@@ -1,11 +1,11 @@
 #include "persist/MtrUser.h"
 
-#include <fstream>
+#include <sstream>
 
+#include "base/ReadFile.h"
 #include "base/RuntimeError.h"
 #include "core/Tables.h"
 #include "core/Text.h"
-#include "persist/FileMissing.h"
 #include "persist/FileReplace.h"
 
 namespace {
@@ -22,16 +22,19 @@ void Info_Fields(Visit visit) {
     visit(6, PRINTINFO.Mail);
 }
 
+// Seven short lines; a longer file is read this far.
+constexpr std::size_t kFileBytes = 65536;
+
 }  // namespace
 
 std::string MtrUser_Path() { return AppPath + "/MtrUser.dat"; }
 
 bool MtrUser_ReadFile(AdminTexts& texts) {
-    const std::string path = MtrUser_Path();
-    if (File_Missing(path)) return false;
-    std::ifstream in(path, std::ios::binary);
+    std::string bytes;
+    if (!File_ReadPrefix(MtrUser_Path(), kFileBytes, bytes)) return false;
     texts = {};
-    if (in.peek() == std::ifstream::traits_type::eof()) return true;
+    if (bytes.empty()) return true;
+    std::istringstream in(bytes);
     for (std::string& text : texts) {
         std::string line;
         if (!std::getline(in, line)) throw RuntimeError("Input past end of file");

@@ -14,9 +14,9 @@ using AdminTexts = std::array<std::string, kAdminLines>;
 // AppPath + "/MtrUser.dat".
 std::string MtrUser_Path();
 
-// Reads the file: false when it is missing. An empty file gives seven empty
-// texts; otherwise each line loses its first and last character and goes
-// through Text_Clean. A line shorter than two characters, or fewer than
+// Reads the file: false when it is missing, is no regular file or cannot be
+// read. An empty file gives seven empty texts; otherwise each line loses its
+// first and last character and goes through Text_Clean. A line shorter than two characters, or fewer than
 // seven lines, throws RuntimeError.
 bool MtrUser_ReadFile(AdminTexts& texts);
 

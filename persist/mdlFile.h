@@ -21,8 +21,15 @@ std::string File_VersionText();
 // The document in the current layout, 35,763 bytes.
 std::string File_Bytes();
 
+// The file that the document was last opened from when it could not be read
+// (a failed or no reader), empty otherwise. Its bytes are kept as NAME.bak
+// before the first save over it.
+inline std::string UnreadFile;
+
 // Writes the document to path. A failure shows "File write failed." and
 // returns false; the document and the previous file are left as they were.
+// Writing over UnreadFile first copies it to path + ".bak", notes that in
+// History.log, and fails when the copy cannot be made.
 bool File_Save(const std::string& path);
 
 // Makes the file at path the document. When the file cannot be read whole,

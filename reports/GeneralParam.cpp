@@ -7,7 +7,7 @@
 #include "base/NumberFormat.h"
 #include "calc/Cart.h"
 #include "calc/mdlCulcurate.h"
-#include "reports/HistoryLog.h"
+#include "core/HistoryLog.h"
 #include "reports/ParamIni.h"
 #include "reports/ParamValue.h"
 #include "reports/ResultsLine.h"

@@ -2,9 +2,12 @@
 
 #include <ini.h>
 
+#include <algorithm>
 #include <charconv>
+#include <cstring>
 #include <strings.h>
 
+#include "base/ReadFile.h"
 #include "core/Tables.h"
 
 namespace {
@@ -39,6 +42,28 @@ int Collect(void* user, const char* section, const char* name, const char* value
 
 constexpr int kLineBytes = 65536;
 
+// No setting file of formula texts comes near this size; a larger one is
+// read this far, and a device is not read at all.
+constexpr std::size_t kFileBytes = 1 << 20;
+
+// The bytes of the file, handed to the parser line by line as fgets hands
+// them: up to and with the line feed, NUL bytes and all.
+struct Lines {
+    std::string_view rest;
+};
+
+char* NextLine(char* line, int room, void* stream) {
+    auto& lines = *static_cast<Lines*>(stream);
+    if (lines.rest.empty() || room < 2) return nullptr;
+    const std::size_t end = lines.rest.find('\n');
+    const std::size_t take =
+        std::min(end == std::string_view::npos ? lines.rest.size() : end + 1, static_cast<std::size_t>(room - 1));
+    std::memcpy(line, lines.rest.data(), take);
+    line[take] = '\0';
+    lines.rest.remove_prefix(take);
+    return line;
+}
+
 // One line is one entry, as the system's own reader has it: no continuation
 // lines and no comments behind a value. The line buffer is on the heap and
 // of one fixed size, since the library's own is 200 bytes.
@@ -58,7 +83,10 @@ std::string ParamIni_Path() { return AppPath + "/Param.ini"; }
 std::string ParamIni_String(const std::string& path, std::string_view section, std::string_view key) {
     Configure();
     Lookup lookup{section, key, false, {}};
-    ini_parse(path.c_str(), Collect, &lookup);
+    std::string bytes;
+    if (!File_ReadPrefix(path, kFileBytes, bytes)) return {};
+    Lines lines{bytes};
+    ini_parse_stream(NextLine, &lines, Collect, &lookup);
     return lookup.value;
 }
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <fstream>
 
-#include "reports/HistoryLog.h"
+#include "core/HistoryLog.h"
 
 namespace {
 

@@ -24,10 +24,9 @@ void Comment_Judge_Set() {
     Recordset_Open(Query_DriverTypes(), types);
     DriverTypes.clear();
     for (; !types.IsEOF(); types.MoveNext())
-        DriverTypes.push_back({static_cast<int16_t>(types.Field("DriverType").Num()), types.Field("OKComment").Text(),
-                               static_cast<int16_t>(types.Field("OKJudgeFlg").Num()),
-                               types.Field("NGComment").Text(),
-                               static_cast<int16_t>(types.Field("NGJudgeFlg").Num())});
+        DriverTypes.push_back({CInt(types.Field("DriverType").Num()), types.Field("OKComment").Text(),
+                               CInt(types.Field("OKJudgeFlg").Num()), types.Field("NGComment").Text(),
+                               CInt(types.Field("NGJudgeFlg").Num())});
 }
 
 int16_t Regeneration_Judge(double limit1, double limit2, double value1, double value2) {

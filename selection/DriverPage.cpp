@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/MsgBox.h"
+#include "base/Numeric.h"
 #include "calc/mdlCulcurate.h"
 #include "core/Tables.h"
 #include "selection/DriverJudge.h"
@@ -31,7 +32,7 @@ void Driver_Row(Grid& grid, int row) {
     const double value1 = Regeneration_Peak(PatarnTrial);
     const double value2 = Regeneration_Mean(PatarnTrial);
     const int16_t code = Regeneration_Judge(limit1, limit2, value1, value2);
-    const auto type = static_cast<int16_t>(DriverRecordset.Field("drivertype").Num());
+    const auto type = CInt(DriverRecordset.Field("drivertype").Num());
     GridCell& verdict = grid.Cell(row, 0);
     verdict.text = Driver_Judge(type, code, verdict.color);
     verdict.bold = true;
@@ -50,7 +51,7 @@ void List2_Activate(DriverPage& page) {
     page.vsfDrvList.Clear();
     Driver_Header(page.vsfDrvList);
     for (; !DriverRecordset.IsEOF(); DriverRecordset.MoveNext()) Driver_Row(page.vsfDrvList, page.vsfDrvList.AddRow());
-    page.DriverRowCount = static_cast<int16_t>(DriverRecordset.RecordCount());
+    page.DriverRowCount = CInt(DriverRecordset.RecordCount());
     page.Row = kFixedRows;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/MsgBox.h"
+#include "base/Numeric.h"
 #include "calc/mdlCulcurate.h"
 #include "core/Tables.h"
 #include "selection/DriverPage.h"
@@ -81,7 +82,7 @@ void lstM_Click(MotorPage& page, int index) {
         Motor_Cells(MotorRecordset, page.vsfData, row);
         MotorCommentList.push_back(MotorRecordset.Field("Comment").Text());
     }
-    MotorRowCount = static_cast<int16_t>(MotorRecordset.RecordCount());
+    MotorRowCount = CInt(MotorRecordset.RecordCount());
     vsfData_RowChange(page, kFixedRows);
 }
 

@@ -1,6 +1,7 @@
 #include "selection/mdlDataBase.h"
 
 #include "base/MsgBox.h"
+#include "base/Numeric.h"
 #include "base/RuntimeError.h"
 #include "core/Tables.h"
 
@@ -8,7 +9,7 @@ namespace {
 
 void Store(std::array<int16_t, kListSlots>& slots, int position, const FieldValue& value) {
     if (position >= kListSlots) throw RuntimeError("Subscript out of range");
-    slots[position] = static_cast<int16_t>(value.Num());
+    slots[position] = CInt(value.Num());
 }
 
 }  // namespace

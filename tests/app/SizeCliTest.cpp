@@ -11,6 +11,7 @@
 #include "tests/persist/Documents.h"
 #include "tests/persist/FileBytes.h"
 #include "tests/persist/OlderFile.h"
+#include "tests/support/HostilePaths.h"
 #include "tests/support/TestState.h"
 
 namespace {
@@ -98,6 +99,16 @@ TEST_F(SizeCliTest, UnreadableFileExitsWithOneAndTheMessage) {
     EXPECT_EQ(RunSize("'" + appDir.File("none.AP2") + "'"), 1);
     EXPECT_NE(err.find("File read failed."), std::string::npos);
     EXPECT_TRUE(out.empty());
+}
+
+TEST_F(SizeCliTest, APathThatIsNoFileExitsWithOneAndTheMessage) {
+    for (const std::string& path : {Path_Folder(appDir.File("folder.AP2")), Path_Fifo(appDir.File("fifo.AP2")),
+                                    Path_EndlessDevice(appDir.File("zero.AP2")), std::string("/dev/zero")}) {
+        SCOPED_TRACE(path);
+        EXPECT_EQ(RunSize("'" + path + "'"), 1);
+        EXPECT_NE(err.find("File read failed."), std::string::npos) << err;
+        EXPECT_TRUE(out.empty());
+    }
 }
 
 TEST_F(SizeCliTest, DamagedFileExitsWithOne) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include <clocale>
 
 #include "base/Numeric.h"
@@ -61,6 +63,23 @@ TEST(CInt, ConvertsOrFails) {
     EXPECT_THROW(CInt(""), RuntimeError);
     EXPECT_THROW(CInt("40000"), RuntimeError);
     EXPECT_EQ(CInt("-32768"), -32768);
+    EXPECT_THROW(CInt("1e11"), RuntimeError);
+}
+
+TEST(CInt, ANumberFromOutsideIsRoundedOrIsTheFailureOverflow) {
+    EXPECT_EQ(CInt(2.5), 2);
+    EXPECT_EQ(CInt(-3.5), -4);
+    EXPECT_EQ(CInt(32767.4), 32767);
+    EXPECT_EQ(CInt(-32768.5), -32768);
+    for (const double outside : {32767.5, -32768.6, 1e11, -1e300, std::numeric_limits<double>::infinity(),
+                                 std::numeric_limits<double>::quiet_NaN()}) {
+        try {
+            CInt(outside);
+            ADD_FAILURE() << outside;
+        } catch (const RuntimeError& e) {
+            EXPECT_STREQ(e.what(), "Overflow");
+        }
+    }
 }
 
 TEST(SameSingle, EqualityInSinglePrecision) {

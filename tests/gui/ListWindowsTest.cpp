@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSettings>
+#include <QTableWidget>
 #include <QToolBar>
 
 #include "selection/DriverPage.h"
@@ -622,6 +623,44 @@ TEST_F(ListWindowsTest, TheBundledCatalogueCanBeJudgedAndFinished) {
     drivers->cmdDecide->click();
     EXPECT_EQ(MotorSelected, 1);
     EXPECT_EQ(w->lblMotor->text(), page->vsfData->CellText(2, 1));
+    EXPECT_TRUE(msg.Seen().empty());
+}
+
+// Every text the main window shows in its labels and grids, in widget order.
+std::vector<std::string> ShownNumbers(const frmMain& window) {
+    std::vector<std::string> texts;
+    for (const QLabel* label : window.findChildren<QLabel*>()) texts.push_back(label->text().toStdString());
+    for (const QTableWidget* grid : window.findChildren<QTableWidget*>())
+        for (int r = 0; r < grid->rowCount(); ++r)
+            for (int c = 0; c < grid->columnCount(); ++c)
+                texts.push_back(grid->item(r, c) ? grid->item(r, c)->text().toStdString() : "");
+    return texts;
+}
+
+TEST_F(ListWindowsTest, AfterFinishWithTheBundledCatalogueTheMainWindowShowsWhatTheSavedFileShowsWhenReopened) {
+    std::filesystem::copy_file(std::filesystem::path(TORVANE_GUI_EXE).parent_path() / "Series.db",
+                               appDir.File("Series.db"));
+    frmList1* page = Open();
+    page->lstS->setCurrentRow(0);
+    page->cmdJudge->click();
+    ASSERT_EQ(page->vsfData->CellText(6, 1), "TVM-A075S3");
+    frmList2* drivers = Next(page, 6);
+    ASSERT_EQ(drivers->vsfDrvList->CellText(2, 1), "TVD-A08");
+    drivers->vsfDrvList->SetGridRow(2);
+    drivers->cmdDecide->click();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_DOUBLE_EQ(SelectedJm, 9.73e-05);
+    const std::vector<std::string> finished = ShownNumbers(*w);
+    const auto sized = ResultValues;
+
+    const QString path = QString::fromStdString(appDir.File("chosen.AP2"));
+    FileDialog_Script({path});
+    w->Action("mnuFileSaveAs")->trigger();
+    frmMain reopened;
+    FileDialog_Script({path});
+    reopened.Action("mnuFileOpen")->trigger();
+    EXPECT_EQ(ResultValues, sized);
+    EXPECT_EQ(ShownNumbers(reopened), finished);
     EXPECT_TRUE(msg.Seen().empty());
 }
 

@@ -265,6 +265,35 @@ TEST_F(WorkbenchTest, SaveAsNewAndOpenRoundTripThroughTheMenus) {
     EXPECT_EQ(Cell(w, 2, 1), "0.100");
 }
 
+TEST_F(WorkbenchTest, AFolderOnTheCommandLineSaysFileReadFailedAndTheWindowGoesOn) {
+    CommandFileGiven = 1;
+    FileName = appDir.File("folder.AP2");
+    std::filesystem::create_directory(FileName);
+    frmMain w;
+    w.show();
+    w.Start();
+    ASSERT_FALSE(msg.Seen().empty());
+    EXPECT_EQ(msg.Seen()[0].text, "File read failed.");
+    EXPECT_EQ(w.windowTitle(), "Torvane-[folder.AP2]");
+    EXPECT_EQ(ElementCount, 1);
+}
+
+TEST_F(WorkbenchTest, CtrlSOverAFileThatCouldNotBeReadKeepsItsBytesAsBak) {
+    const std::string path = appDir.File("cut.AP2");
+    WriteFile(path, "Ver.1.0.0 cut short");
+    frmMain w;
+    w.show();
+    FileDialog_Script({QString::fromStdString(path)});
+    w.Action("mnuFileOpen")->trigger();
+    EXPECT_EQ(msg.Seen().at(0).text, "File read failed.");
+    w.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
+    QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &w, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(DirtyFlag, 0);
+    EXPECT_EQ(ReadFile(path + ".bak"), "Ver.1.0.0 cut short");
+    EXPECT_EQ(ReadFile(path).size(), 35763u);
+}
+
 TEST_F(WorkbenchTest, DeleteOnAnEmptyRowRemovesItFromTheTableButLeavesTheGridUntilTheNextEdit) {
     frmMain w;
     StartWith(w, 1);

@@ -2,7 +2,6 @@
 
 #include "base/RuntimeError.h"
 #include "core/Tables.h"
-#include "persist/FileMissing.h"
 #include "persist/MtrUser.h"
 #include "tests/support/TestState.h"
 
@@ -94,10 +93,3 @@ TEST_F(MtrUserTest, FailedWriteThrowsAndChangesNothing) {
     EXPECT_EQ(DirtyFlag, 0);
 }
 
-TEST_F(MtrUserTest, FileMissingTellsWhetherAFileCanBeRead) {
-    EXPECT_TRUE(File_Missing(appDir.File("none.dat")));
-    EXPECT_TRUE(File_Missing(appDir.Path()));
-    WriteFile(appDir.File("there.dat"), "");
-    EXPECT_FALSE(File_Missing(appDir.File("there.dat")));
-    EXPECT_TRUE(File_Missing(appDir.File("none.dat")));  // no error state stays behind
-}

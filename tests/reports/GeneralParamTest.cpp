@@ -4,7 +4,7 @@
 #include "calc/mdlCulcurate.h"
 #include "core/Tables.h"
 #include "reports/GeneralParam.h"
-#include "reports/HistoryLog.h"
+#include "core/HistoryLog.h"
 #include "reports/ResultsLine.h"
 #include "tests/reports/ReportFixture.h"
 

@@ -6,7 +6,7 @@
 #include "calc/mdlCulcurate.h"
 #include "core/Catalogue.h"
 #include "core/Tables.h"
-#include "reports/HistoryLog.h"
+#include "core/HistoryLog.h"
 #include "reports/mdlFileOutput.h"
 
 void ReportTest::TearDown() {

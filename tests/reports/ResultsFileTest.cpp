@@ -5,7 +5,7 @@
 #include "base/NumberFormat.h"
 #include "calc/mdlCulcurate.h"
 #include "core/Tables.h"
-#include "reports/HistoryLog.h"
+#include "core/HistoryLog.h"
 #include "reports/ResultsText.h"
 #include "reports/mdlFileOutput.h"
 #include "tests/reports/ReportFixture.h"

@@ -8,7 +8,7 @@
 #include "calc/mdlCulcurate.h"
 #include "core/Document.h"
 #include "core/Tables.h"
-#include "reports/HistoryLog.h"
+#include "core/HistoryLog.h"
 #include "tests/reports/ReportFixture.h"
 
 namespace {

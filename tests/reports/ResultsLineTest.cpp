@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "core/Tables.h"
-#include "reports/HistoryLog.h"
+#include "core/HistoryLog.h"
 #include "reports/ResultsLine.h"
 #include "reports/ResultsText.h"
 #include "tests/reports/ReportFixture.h"

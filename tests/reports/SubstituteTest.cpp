@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "core/Tables.h"
-#include "reports/HistoryLog.h"
+#include "core/HistoryLog.h"
 #include "reports/Substitute.h"
 #include "tests/reports/ReportFixture.h"
 

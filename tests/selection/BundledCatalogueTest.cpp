@@ -78,4 +78,17 @@ TEST_F(BundledCatalogueTest, EveryMotorAndItsDriversAreJudged) {
     EXPECT_TRUE(msg.Seen().empty());
 }
 
+// "Next >" takes a motor's inertia only when Inertia and BrakeInertia are both
+// filled; a blank one would leave the sizing after "Finish" without the motor.
+TEST_F(BundledCatalogueTest, NoMotorHasABlankInertiaOrBrakeInertia) {
+    Recordset rs;
+    ASSERT_EQ(Recordset_Open("SELECT * FROM MotorTable;", rs), 0);
+    ASSERT_GE(rs.RecordCount(), 80);
+    for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext()) {
+        const std::string model = rs.Field("MotorModel").Text();
+        EXPECT_FALSE(rs.Field("Inertia").Blank()) << model;
+        EXPECT_FALSE(rs.Field("BrakeInertia").Blank()) << model;
+    }
+}
+
 }  // namespace

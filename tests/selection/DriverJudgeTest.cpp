@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "base/RuntimeError.h"
 #include "core/Tables.h"
 #include "selection/Grid.h"
@@ -67,6 +69,27 @@ protected:
         PatternRowCount = 2;
     }
 };
+
+// What a catalogue holds in a 16-bit field, as the run-time failure it ends with.
+std::string FailureOf(void (*command)()) {
+    try {
+        command();
+    } catch (const RuntimeError& e) {
+        return e.what();
+    }
+    return "";
+}
+
+TEST_F(SeriesDbTest, ADriverTypeFieldOutsideSixteenBitsIsTheFailureOverflow) {
+    for (const char* row : {"(1e11, 'ok', 'ng', 0, 2)", "(1, 'ok', 'ng', 1e11, 2)", "(1, 'ok', 'ng', 0, -1e11)"}) {
+        SCOPED_TRACE(row);
+        std::filesystem::remove(appDir.File("Series.db"));
+        Build(std::string("INSERT INTO DriverTypeMaster VALUES ") + row + ";");
+        Series_Connect();
+        EXPECT_EQ(FailureOf(Comment_Judge_Set), "Overflow");
+        SeriesConnection.Close();
+    }
+}
 
 TEST_F(DriverTypesTest, ReadInTypeOrder) {
     ASSERT_EQ(DriverTypes.size(), 3u);

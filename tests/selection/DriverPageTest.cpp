@@ -125,6 +125,15 @@ TEST_F(DriverPageTest, UnknownDriverTypeEndsTheFilling) {
     EXPECT_THROW(Open(Driver("D1", "1e6", "1e6", 9)), RuntimeError);
 }
 
+TEST_F(DriverPageTest, ADriverTypeOutsideSixteenBitsIsTheFailureOverflow) {
+    try {
+        Open("INSERT INTO DriverTable VALUES ('D1', 1e6, 1e6, 1e11, 'Pulse', '200', 'Three-phase');");
+        ADD_FAILURE();
+    } catch (const RuntimeError& e) {
+        EXPECT_STREQ(e.what(), "Overflow");
+    }
+}
+
 TEST_F(DriverPageTest, ActivationRebuildsAndPutsTheRowBackToTwo) {
     Open(Driver("D1", "1e6", "1e6", 1) + Driver("D2", "1e6", "1e6", 1));
     page.Row = 3;

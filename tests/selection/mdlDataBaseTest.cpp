@@ -73,6 +73,20 @@ TEST_F(DataBaseTest, TwelfthRowIsARunTimeFailure) {
     EXPECT_THROW(List_Fill(rs, list, 0), RuntimeError);
 }
 
+TEST_F(DataBaseTest, AKeyOutsideSixteenBitsIsTheFailureOverflow) {
+    Build("INSERT INTO MotorSeriesMaster VALUES ('S', 1e11, 1);");
+    Series_Connect();
+    Recordset rs;
+    ASSERT_EQ(Recordset_Open(Query_Series(), rs), 0);
+    std::vector<std::string> list;
+    try {
+        List_Fill(rs, list, 0);
+        ADD_FAILURE();
+    } catch (const RuntimeError& e) {
+        EXPECT_STREQ(e.what(), "Overflow");
+    }
+}
+
 TEST_F(DataBaseTest, ModelGroupsFillFromTheCurrentRow) {
     Build("INSERT INTO ModelMaster VALUES (10, 'G1', 1), (10, 'G2', 7), (20, 'Other', 3);");
     Series_Connect();

@@ -9,6 +9,7 @@
 #include "core/Document.h"
 #include "core/Tables.h"
 #include "core/Templates.h"
+#include "persist/mdlFile.h"
 #include "units/UnitTable.h"
 
 void State_Reset() {
@@ -19,6 +20,7 @@ void State_Reset() {
     Param.fill(ParamRecord{});
     PatarnTrial.fill(PatarnRow{});
     FileName.clear();
+    UnreadFile.clear();
     CommandFileGiven = DocumentNamed = MecaTemplateNo = MecaResult = 0;
     SelectedElement = FirstVisible = DragType = InsertAnswer = LoadMotion = 0;
     ItemTab = 1;

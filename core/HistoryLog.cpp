@@ -1,4 +1,4 @@
-#include "reports/HistoryLog.h"
+#include "core/HistoryLog.h"
 
 #include <ctime>
 #include <fstream>
