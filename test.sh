@@ -10,7 +10,7 @@ export ASAN_OPTIONS="${ASAN_OPTIONS:-detect_leaks=1:abort_on_error=1}"
 export UBSAN_OPTIONS="${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}"
 export QT_QPA_PLATFORM=offscreen
 
-cmake -S . -B build-headless -G Ninja -DCMAKE_BUILD_TYPE=Debug -DTORVANE_GUI=OFF >/dev/null
+cmake -S . -B build-headless -G Ninja -DCMAKE_BUILD_TYPE=Release -DTORVANE_GUI=OFF >/dev/null
 cmake --build build-headless -j2
 ctest --test-dir build-headless -j2 --output-on-failure -L core
 

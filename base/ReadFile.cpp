@@ -9,9 +9,10 @@
 
 namespace {
 
-// A descriptor of the regular file at path, or -1. The open does not wait
-// for a writer, so a FIFO is refused instead of blocking.
-int Open_Regular(const std::string& path) {
+// A descriptor of the regular file at path, or -1, and the size the file
+// has now. The open does not wait for a writer, so a FIFO is refused
+// instead of blocking.
+int Open_Regular(const std::string& path, std::size_t& size) {
     const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (fd < 0) return -1;
     struct stat st {};
@@ -19,6 +20,7 @@ int Open_Regular(const std::string& path) {
         ::close(fd);
         return -1;
     }
+    size = static_cast<std::size_t>(st.st_size);
     return fd;
 }
 
@@ -26,24 +28,22 @@ int Open_Regular(const std::string& path) {
 
 bool File_ReadPrefix(const std::string& path, std::size_t limit, std::string& bytes) {
     bytes.clear();
-    const int fd = Open_Regular(path);
+    std::size_t size = 0;
+    const int fd = Open_Regular(path, size);
     if (fd < 0) return false;
-    constexpr std::size_t kChunk = 65536;
+    // Room for the size the file says it has; a file that grows meanwhile, or
+    // says 0 as some system files do, is read on to its end or the limit.
+    bytes.reserve(std::min(size, limit));
+    char chunk[16384];
     bool ok = true;
     while (bytes.size() < limit) {
-        const std::size_t old = bytes.size();
-        const std::size_t want = std::min(kChunk, limit - old);
-        bytes.resize(old + want);
-        const ssize_t n = ::read(fd, bytes.data() + old, want);
-        if (n < 0 && errno == EINTR) {
-            bytes.resize(old);
-            continue;
-        }
-        bytes.resize(old + static_cast<std::size_t>(n > 0 ? n : 0));
+        const ssize_t n = ::read(fd, chunk, std::min(sizeof chunk, limit - bytes.size()));
+        if (n < 0 && errno == EINTR) continue;
         if (n <= 0) {
             ok = n == 0;
             break;
         }
+        bytes.append(chunk, static_cast<std::size_t>(n));
     }
     ::close(fd);
     if (!ok) bytes.clear();
@@ -51,7 +51,8 @@ bool File_ReadPrefix(const std::string& path, std::size_t limit, std::string& by
 }
 
 bool File_Readable(const std::string& path) {
-    const int fd = Open_Regular(path);
+    std::size_t size = 0;
+    const int fd = Open_Regular(path, size);
     if (fd < 0) return false;
     ::close(fd);
     return true;

@@ -7,7 +7,6 @@
 
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -53,15 +52,29 @@ void Bind(sqlite3_stmt* statement, int column, const std::string& field) {
     else sqlite3_bind_text(statement, column, field.c_str(), static_cast<int>(field.size()), SQLITE_TRANSIENT);
 }
 
+// The catalogue file stays open for writing across inputs: each input
+// empties its six tables and fills them anew, without a journal and without
+// waiting for the disk, as one transaction.
+sqlite3* Catalogue_Writer(const std::string& path) {
+    static sqlite3* db = [&path] {
+        std::ifstream schema(TORVANE_SOURCE_DIR "/data/catalogue/10_schema.sql");
+        const std::string sql = "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; " +
+                                std::string(std::istreambuf_iterator<char>(schema), std::istreambuf_iterator<char>());
+        sqlite3* opened = nullptr;
+        if (sqlite3_open(path.c_str(), &opened) != SQLITE_OK ||
+            sqlite3_exec(opened, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+            std::abort();
+        return opened;
+    }();
+    return db;
+}
+
 bool Build(const std::string& path, const std::vector<std::string>& fields) {
-    std::filesystem::remove(path);
-    std::ifstream schema(TORVANE_SOURCE_DIR "/data/catalogue/10_schema.sql");
-    // A throwaway file: no journal, no waiting for the disk.
-    const std::string sql = "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; " +
-                            std::string(std::istreambuf_iterator<char>(schema), std::istreambuf_iterator<char>());
-    sqlite3* db = nullptr;
-    bool ok = sqlite3_open(path.c_str(), &db) == SQLITE_OK &&
-              sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
+    sqlite3* db = Catalogue_Writer(path);
+    bool ok = sqlite3_exec(db,
+                           "BEGIN; DELETE FROM MotorSeriesMaster; DELETE FROM ModelMaster; DELETE FROM MotorTable;"
+                           " DELETE FROM DriverTable; DELETE FROM MotorDriverTable; DELETE FROM DriverTypeMaster;",
+                           nullptr, nullptr, nullptr) == SQLITE_OK;
     size_t next = 0;
     for (const char* row : kRows) {
         sqlite3_stmt* statement = nullptr;
@@ -71,8 +84,7 @@ bool Build(const std::string& path, const std::vector<std::string>& fields) {
         ok = ok && sqlite3_step(statement) == SQLITE_DONE;
         sqlite3_finalize(statement);
     }
-    sqlite3_close(db);
-    return ok;
+    return sqlite3_exec(db, ok ? "COMMIT;" : "ROLLBACK;", nullptr, nullptr, nullptr) == SQLITE_OK && ok;
 }
 
 void Run_Wizard() {
