@@ -10,7 +10,7 @@
 #include "core/Catalogue.h"
 #include "core/Document.h"
 #include "core/Templates.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 #include "units/UnitTable.h"
 
 namespace {

@@ -2,7 +2,7 @@
 // fixed order, with no cache.
 #include "calc/mdlCulcurate.h"
 #include "core/Chain.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 
 void Culcurate_All() {
     LoadMotion = Load_Motion(Element);

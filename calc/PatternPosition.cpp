@@ -1,6 +1,6 @@
 // The travel of the load at the end of every row.
 #include "calc/mdlCulcurate.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 #include "units/UnitTable.h"
 
 void Pattern_Position(PatarnTable& table) {

@@ -2,7 +2,7 @@
 #include <cmath>
 
 #include "calc/mdlCulcurate.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "calc/Mark.h"
 #include "calc/mdlCulcurate.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 #include "units/UnitTable.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include "calc/mdlCulcurate.h"
 #include "core/Tables.h"
 #include "pattern/GridText.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 
 namespace {
 

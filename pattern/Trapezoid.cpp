@@ -8,7 +8,7 @@
 #include "base/Numeric.h"
 #include "calc/mdlCulcurate.h"
 #include "core/Tables.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 #include "units/UnitTable.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include "core/Tables.h"
 #include "core/Text.h"
 #include "core/UnitFile.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 #include "persist/AppFileLayout.h"
 #include "persist/FileRead.h"
 #include "persist/mdlFile.h"

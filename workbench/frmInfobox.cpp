@@ -22,7 +22,7 @@
 #include "core/ItemEdit.h"
 #include "core/ItemGrid.h"
 #include "core/Tables.h"
-#include "workbench/QtSettingsStore.h"
+#include "common/ui/QtSettingsStore.h"
 
 namespace {
 
@@ -193,7 +193,7 @@ frmInfobox::frmInfobox(std::function<void()> refresh, std::function<void()> sele
     // least wide enough for the longest unit names.
     vsfElement->setMinimumWidth(440);
     resize(minimumSizeHint());
-    Window_Restore(this, kInfoboxWindowKeys);
+    Window_Load(this, kInfoboxWindowKeys);
 }
 
 frmInfobox::~frmInfobox() { Editor_Detach(vsfElement); }
@@ -355,11 +355,11 @@ bool frmInfobox::AfterEdit(int gridRow, QString& text) {
 }
 
 void frmInfobox::Unload() {
-    Window_Save(this, kInfoboxWindowKeys);
+    Window_Store(this, kInfoboxWindowKeys);
     hide();
 }
 
 void frmInfobox::closeEvent(QCloseEvent* event) {
-    Window_Save(this, kInfoboxWindowKeys);
+    Window_Store(this, kInfoboxWindowKeys);
     QWidget::closeEvent(event);
 }

@@ -20,7 +20,7 @@
 #include "core/Tables.h"
 #include "workbench/ChainStrip.h"
 #include "workbench/Pictures.h"
-#include "workbench/QtSettingsStore.h"
+#include "common/ui/QtSettingsStore.h"
 
 namespace {
 
@@ -81,7 +81,7 @@ frmItem::frmItem(ItemSeams seams, QWidget* parent) : QWidget(parent, Qt::Tool), 
     ItemTab = 1;
     TabStrip1_Click(1);
     picElement_GotFocus(0);
-    Window_Restore(this, kItemWindowKeys);
+    Window_Load(this, kItemWindowKeys);
 }
 
 void frmItem::TabStrip1_Click(int tab) {
@@ -214,11 +214,11 @@ void frmItem::Form_Activate() {
 }
 
 void frmItem::Unload() {
-    Window_Save(this, kItemWindowKeys);
+    Window_Store(this, kItemWindowKeys);
     hide();
 }
 
 void frmItem::closeEvent(QCloseEvent* event) {
-    Window_Save(this, kItemWindowKeys);
+    Window_Store(this, kItemWindowKeys);
     QWidget::closeEvent(event);
 }

@@ -25,14 +25,14 @@
 #include "core/Catalogue.h"
 #include "core/Document.h"
 #include "core/Tables.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 #include "pattern/Trapezoid.h"
 #include "pattern/ui/PatarnGrid.h"
 #include "pattern/ui/PatternGraph.h"
 #include "pattern/ui/frmPatarn.h"
 #include "selection/ui/frmList1.h"
 #include "workbench/ChainStrip.h"
-#include "workbench/QtSettingsStore.h"
+#include "common/ui/QtSettingsStore.h"
 #include "workbench/ResultGrid.h"
 #include "workbench/frmAbout.h"
 #include "workbench/frmInfobox.h"
@@ -75,7 +75,7 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
     patarn_ = new frmPatarn([this] { return vsfPatarn->GridRow(); }, [this] { Disp_Refresh(); }, this);
     unit_ = new frmUnit([this] { Disp_Refresh(); }, this);
     resize(1180, 760);
-    Window_Restore(this, kMainWindowKeys);
+    Window_Load(this, kMainWindowKeys);
     Disp_Reset();
 }
 

@@ -9,7 +9,7 @@
 #include "persist/mdlFile.h"
 #include "reports/mdlFileOutput.h"
 #include "workbench/FileDialog.h"
-#include "workbench/QtSettingsStore.h"
+#include "common/ui/QtSettingsStore.h"
 #include "workbench/frmMain.h"
 
 namespace {
@@ -72,4 +72,4 @@ void frmMain::SaveResults() {
     Results_Save(path.toStdString());
 }
 
-void frmMain::StorePosition() { Window_Save(this, kMainWindowKeys); }
+void frmMain::StorePosition() { Window_Store(this, kMainWindowKeys); }

@@ -10,7 +10,7 @@
 #include <QVBoxLayout>
 
 #include "base/Cp1252.h"
-#include "workbench/QtSettingsStore.h"
+#include "common/ui/QtSettingsStore.h"
 
 frmUnit::frmUnit(std::function<void()> applied, QWidget* parent) : QDialog(parent), applied_(std::move(applied)) {
     setObjectName("frmUnit");
@@ -50,7 +50,7 @@ frmUnit::frmUnit(std::function<void()> applied, QWidget* parent) : QDialog(paren
     auto* main = new QVBoxLayout(this);
     main->addLayout(frames);
     main->addLayout(buttons);
-    Window_Restore(this, kUnitWindowKeys);
+    Window_Load(this, kUnitWindowKeys);
 }
 
 void frmUnit::showEvent(QShowEvent* event) {
@@ -59,7 +59,7 @@ void frmUnit::showEvent(QShowEvent* event) {
 }
 
 void frmUnit::done(int result) {
-    Window_Save(this, kUnitWindowKeys);
+    Window_Store(this, kUnitWindowKeys);
     QDialog::done(result);
 }
 

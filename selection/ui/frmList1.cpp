@@ -15,7 +15,7 @@
 #include "selection/ui/GridView.h"
 #include "selection/ui/WizardButton.h"
 #include "selection/ui/frmList2.h"
-#include "workbench/QtSettingsStore.h"
+#include "common/ui/QtSettingsStore.h"
 
 namespace {
 
@@ -99,7 +99,7 @@ frmList1::frmList1(std::function<void()> decided, QWidget* parent)
 }
 
 void frmList1::Form_Load() {
-    Window_Restore(this, kListWindowKeys);
+    Window_Load(this, kListWindowKeys);
     Run_Guarded(kTitleMotorSelection, [this] { List1_Load(page_); });
     Disp_Page();
 }
@@ -168,7 +168,7 @@ void frmList1::changeEvent(QEvent* event) {
 
 void frmList1::closeEvent(QCloseEvent* event) {
     unloading_ = true;
-    Window_Save(this, kListWindowKeys);
+    Window_Store(this, kListWindowKeys);
     List1_Unload();
     if (list2_) {
         list2_->Unload();

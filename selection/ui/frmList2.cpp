@@ -14,7 +14,7 @@
 #include "selection/ui/GridView.h"
 #include "selection/ui/WizardButton.h"
 #include "selection/ui/frmList1.h"
-#include "workbench/QtSettingsStore.h"
+#include "common/ui/QtSettingsStore.h"
 
 namespace {
 
@@ -107,7 +107,7 @@ void frmList2::cmdReverse_Click() {
 }
 
 void frmList2::Unload() {
-    Window_Save(this, kListWindowKeys);
+    Window_Store(this, kListWindowKeys);
     hide();
 }
 

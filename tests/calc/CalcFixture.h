@@ -6,7 +6,7 @@
 #include "core/Catalogue.h"
 #include "core/Document.h"
 #include "core/Tables.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 #include "tests/support/TestState.h"
 
 // The mass forms of the formula tables, written out by hand: a disk of

@@ -15,7 +15,7 @@
 
 #include "core/Catalogue.h"
 #include "core/Tables.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 #include "pattern/ui/PatarnGrid.h"
 #include "pattern/ui/PatternGraph.h"
 #include "tests/gui/WorkbenchFixture.h"

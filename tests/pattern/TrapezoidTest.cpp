@@ -7,7 +7,7 @@
 #include "core/Document.h"
 #include "core/Tables.h"
 #include "core/Templates.h"
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 #include "pattern/Trapezoid.h"
 #include "tests/support/TestState.h"
 #include "units/UnitTable.h"

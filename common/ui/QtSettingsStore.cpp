@@ -1,4 +1,4 @@
-#include "workbench/QtSettingsStore.h"
+#include "common/ui/QtSettingsStore.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -31,7 +31,7 @@ void QtSettingsStore::Set(std::string_view section, std::string_view key, std::s
     settings.setValue(Key(section, key), QString::fromUtf8(value.data(), static_cast<int>(value.size())));
 }
 
-void Window_Restore(QWidget* window, const WindowKeys& keys) {
+void Window_Load(QWidget* window, const WindowKeys& keys) {
     const QScreen* screen = QGuiApplication::primaryScreen();
     const QSize size = screen ? screen->size() : QSize(1024, 768);
     try {
@@ -44,7 +44,7 @@ void Window_Restore(QWidget* window, const WindowKeys& keys) {
     }
 }
 
-void Window_Save(const QWidget* window, const WindowKeys& keys) {
+void Window_Store(const QWidget* window, const WindowKeys& keys) {
     QtSettingsStore store;
     Window_Store(store, keys, {window->x() * kTwipsPerPixel, window->y() * kTwipsPerPixel}, window->isMinimized());
 }

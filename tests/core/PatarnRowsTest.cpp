@@ -1,5 +1,5 @@
 // The row operations of an operating pattern.
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 
 #include "tests/calc/CalcFixture.h"
 #include "units/UnitTable.h"

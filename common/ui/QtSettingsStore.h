@@ -12,7 +12,8 @@ public:
     void Set(std::string_view section, std::string_view key, std::string_view value) override;
 };
 
-// Moves the window to its stored place (in twips) at load.
-void Window_Restore(QWidget* window, const WindowKeys& keys);
-// Stores the window's place at unload, unless it is minimised.
-void Window_Save(const QWidget* window, const WindowKeys& keys);
+// The two verbs of the window places, for a window: moves it to its stored
+// place (in twips) at load, and stores its place at unload unless it is
+// minimised.
+void Window_Load(QWidget* window, const WindowKeys& keys);
+void Window_Store(const QWidget* window, const WindowKeys& keys);

@@ -1,4 +1,4 @@
-#include "pattern/PatarnRows.h"
+#include "core/PatarnRows.h"
 
 #include <cmath>
 

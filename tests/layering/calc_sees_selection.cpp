@@ -1,0 +1,2 @@
+// The calculation may not see the selection above it.
+#include "selection/mdlDataBase.h"
