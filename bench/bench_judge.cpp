@@ -8,7 +8,7 @@
 #include <string>
 
 #include "calc/mdlCulcurate.h"
-#include "core/Activation.h"
+#include "core/Startup.h"
 #include "core/Document.h"
 #include "core/Tables.h"
 #include "selection/MotorPage.h"

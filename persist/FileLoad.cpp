@@ -40,7 +40,7 @@ void Selected_FromMotor() {
 
 }  // namespace
 
-bool File_Load(const std::string& path, const FileLoadSeams& seams) {
+bool File_Load(const std::string& path, const FileLoadHooks& seams) {
     Disp_Reset();
     Call(seams.resetDisplay);
 

@@ -8,7 +8,7 @@
 
 // What opening a file does to the windows; the main window supplies it, and
 // every empty member is skipped.
-struct FileLoadSeams {
+struct FileLoadHooks {
     std::function<void()> resetDisplay;                      // the window side of a new document
     std::function<void()> refresh;                           // redraws from the tables
     std::function<void(const std::string& title)> setTitle;  // the caption of the main window
@@ -36,4 +36,4 @@ bool File_Save(const std::string& path);
 // "File read failed." is shown, the fields read so far stay and the loading
 // goes on. Returns true when the file was read whole and every step after
 // it ran without a failure.
-bool File_Load(const std::string& path, const FileLoadSeams& seams = {});
+bool File_Load(const std::string& path, const FileLoadHooks& seams = {});

@@ -28,7 +28,7 @@ constexpr QSize kCellPicture(72, 72);
 
 }  // namespace
 
-frmItem::frmItem(ItemSeams seams, QWidget* parent) : QWidget(parent, Qt::Tool), seams_(std::move(seams)) {
+frmItem::frmItem(ItemHooks seams, QWidget* parent) : QWidget(parent, Qt::Tool), seams_(std::move(seams)) {
     setObjectName("frmItem");
     setWindowTitle("Component Selection");
 

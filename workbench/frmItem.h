@@ -14,7 +14,7 @@ class QMimeData;
 class QTabBar;
 
 // What the palette asks of the main window.
-struct ItemSeams {
+struct ItemHooks {
     std::function<void()> refresh;                // Disp_Refresh
     std::function<void()> deleteSelected;         // mnuDelete1_Click
     std::function<void(int index)> selectInList;  // the element box of the settings, list position
@@ -23,7 +23,7 @@ struct ItemSeams {
 class frmItem : public QWidget {
     Q_OBJECT
 public:
-    explicit frmItem(ItemSeams seams, QWidget* parent = nullptr);
+    explicit frmItem(ItemHooks seams, QWidget* parent = nullptr);
 
     QTabBar* TabStrip1 = nullptr;
     std::array<QLabel*, 10> picElement{};
@@ -57,6 +57,6 @@ private:
     void Form_Activate();
     int IndexOf(QObject* watched) const;
 
-    ItemSeams seams_;
+    ItemHooks seams_;
     bool firstActivation_ = true;
 };

@@ -21,7 +21,7 @@
 #include "commands/PatternCommands.h"
 #include "common/ui/EditorDetach.h"
 #include "common/ui/RunGuarded.h"
-#include "core/Activation.h"
+#include "commands/Activation.h"
 #include "core/Catalogue.h"
 #include "core/Document.h"
 #include "core/Tables.h"
@@ -60,7 +60,7 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
     BuildToolBar();
     setCentralWidget(BuildCentre());
     infobox_ = new frmInfobox([this] { Disp_Refresh(); }, [this] { Strip_ShowSelected(); }, this);
-    ItemSeams seams;
+    ItemHooks seams;
     seams.refresh = [this] { Disp_Refresh(); };
     seams.deleteSelected = [this] { RunCommand([this] { mnuDelete1_Click(); }); };
     seams.selectInList = [this](int index) { infobox_->cboElement_Select(index); };
@@ -435,14 +435,13 @@ void frmMain::changeEvent(QEvent* event) {
 }
 
 void frmMain::Form_Activate() {
-    ActivationSeams seams;
-    seams.loadFile = [this](const std::string& path) { LoadFile(path); };
-    seams.resetDisplay = [this] { Disp_Reset(); };
-    seams.setTitle = [this](const std::string& t) { setWindowTitle(QString::fromStdString(t)); };
-    seams.recalculate = [] { Culcurate_All(); };
-    seams.refresh = [this] { Disp_Loaded(); };
-    seams.setUnitRow = [this] { Disp_Headers(); };
-    Run_Guarded("Torvane", [&seams] { Main_Activate(seams); });
+    ActivationHooks hooks;
+    hooks.fileLoad = LoadHooks();
+    hooks.resetDisplay = [this] { Disp_Reset(); };
+    hooks.setTitle = [this](const std::string& t) { setWindowTitle(QString::fromStdString(t)); };
+    hooks.refresh = [this] { Disp_Loaded(); };
+    hooks.setUnitRow = [this] { Disp_Headers(); };
+    Run_Guarded("Torvane", [&hooks] { Main_Activate(hooks); });
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

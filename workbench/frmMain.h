@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <functional>
 
+#include "persist/mdlFile.h"
+
 class QAction;
 class QLabel;
 class QMenu;
@@ -100,7 +102,7 @@ private:
     void RunCommand(const std::function<void()>& command);
     void StorePosition();
     bool ConfirmLeave();
-    void LoadFile(const std::string& path);
+    FileLoadHooks LoadHooks();
     void SaveResults();
 
     frmMeca* meca_ = nullptr;

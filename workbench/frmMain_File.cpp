@@ -31,12 +31,12 @@ bool frmMain::ConfirmLeave() {
     return Document_ConfirmLeave([this] { return mnuFileSave_Click(); });
 }
 
-void frmMain::LoadFile(const std::string& path) {
-    FileLoadSeams seams;
-    seams.resetDisplay = [this] { Disp_Reset(); };
-    seams.refresh = [this] { Disp_Loaded(); };
-    seams.setTitle = [this](const std::string& t) { setWindowTitle(QString::fromStdString(t)); };
-    File_Load(path, seams);
+FileLoadHooks frmMain::LoadHooks() {
+    FileLoadHooks hooks;
+    hooks.resetDisplay = [this] { Disp_Reset(); };
+    hooks.refresh = [this] { Disp_Loaded(); };
+    hooks.setTitle = [this](const std::string& t) { setWindowTitle(QString::fromStdString(t)); };
+    return hooks;
 }
 
 void frmMain::mnuFileOpen_Click() {
@@ -44,7 +44,7 @@ void frmMain::mnuFileOpen_Click() {
     const QString path = FileDialog_Open(this, kDocumentFilter);
     if (path.isEmpty()) return;
     FileName = path.toStdString();
-    LoadFile(FileName);
+    File_Load(FileName, LoadHooks());
     imgElement_Click(1);
 }
 

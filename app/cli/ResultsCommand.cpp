@@ -1,6 +1,6 @@
 #include "app/cli/ResultsCommand.h"
 
-#include "core/Activation.h"
+#include "core/Startup.h"
 #include "persist/mdlFile.h"
 #include "reports/ResultsCommand.h"
 

@@ -6,7 +6,7 @@
 
 #include "app/cli/GridPrint.h"
 #include "app/cli/Json.h"
-#include "core/Activation.h"
+#include "core/Startup.h"
 #include "persist/mdlFile.h"
 #include "selection/DriverPage.h"
 #include "selection/MotorPage.h"

@@ -3,8 +3,8 @@
 #include <iostream>
 
 #include "app/cli/SizePrint.h"
-#include "core/Activation.h"
-#include "persist/mdlFile.h"
+#include "commands/Activation.h"
+#include "core/Startup.h"
 
 SizeCli::SizeCli(CLI::App& app) {
     size_ = app.add_subcommand("size", "Open an application file and print its chain, pattern and sizing values");
@@ -15,11 +15,7 @@ SizeCli::SizeCli(CLI::App& app) {
 int SizeCli::Run() const {
     if (!size_->parsed()) return -1;
     Main_Prepare(file_);
-    bool loaded = false;
-    ActivationSeams seams;
-    seams.loadFile = [&loaded](const std::string& path) { loaded = File_Load(path); };
-    Main_Activate(seams);
-    if (!loaded) {
+    if (!Main_Activate()) {
         std::cerr << "torvane-cli: " << file_ << " could not be loaded\n";
         return 1;
     }

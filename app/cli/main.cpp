@@ -12,7 +12,8 @@
 #include "app/cli/SizeCommand.h"
 #include "base/MsgBox.h"
 #include "base/RuntimeError.h"
-#include "core/Activation.h"
+#include "commands/Activation.h"
+#include "core/Startup.h"
 #include "core/Tables.h"
 #include "core/Templates.h"
 
@@ -23,9 +24,9 @@ int RunTemplate(int number, bool json) {
     MecaTemplateNo = static_cast<int16_t>(number);
     MecaResult = 1;
     std::string title;
-    ActivationSeams seams;
-    seams.setTitle = [&title](const std::string& t) { title = t; };
-    Main_Activate(seams);
+    ActivationHooks hooks;
+    hooks.setTitle = [&title](const std::string& t) { title = t; };
+    Main_Activate(hooks);
     if (json) {
         std::cout << "{\"template\":" << number << ",\"name\":" << Json_String(std::string(Template_Name(number)))
                   << ",\"elementCount\":" << ElementCount << ",\"elements\":";

@@ -3,7 +3,7 @@
 #include <QStringList>
 
 #include "base/MsgBox.h"
-#include "core/Activation.h"
+#include "core/Startup.h"
 #include "core/Tables.h"
 #include "workbench/MsgBoxDialog.h"
 #include "workbench/SingleInstance.h"

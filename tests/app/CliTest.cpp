@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "commands/Activation.h"
+#include "core/Tables.h"
 #include "tests/support/TestState.h"
 
 namespace {
@@ -316,6 +318,31 @@ TEST_F(CliTest, EveryTemplateNumberRuns) {
         ASSERT_TRUE(JsonReader(r.out).Parse(doc)) << n;
         EXPECT_EQ(doc["elements"].items.size(), counts[n]) << n;
         EXPECT_EQ(doc["elementCount"].number, counts[n]) << n;
+    }
+}
+
+// The command line builds a template as the main window's activation does,
+// recalculation included: every computed inertia is the one worked out here.
+TEST_F(CliTest, EveryTemplateShowsTheInertiaItsActivationComputes) {
+    for (int16_t n = 1; n <= 9; ++n) {
+        SCOPED_TRACE(n);
+        const CliRun r = RunCli(appDir, "template " + std::to_string(n) + " --json");
+        ASSERT_EQ(r.code, 0) << r.err;
+        Json doc;
+        ASSERT_TRUE(JsonReader(r.out).Parse(doc));
+        State_Reset();
+        MecaResult = 1;
+        MecaTemplateNo = n;
+        Main_Activate();
+        int computed = 0;
+        for (int slot = 1; slot < ElementCount; ++slot) {
+            const Json& rows = doc["elements"][slot]["rows"];
+            const Json& last = rows[rows.items.size() - 1];
+            ASSERT_EQ(last["row"].number, 13);
+            EXPECT_DOUBLE_EQ(last["value"].number, Element[slot].Item[13].Value) << slot;
+            computed += Element[slot].Item[13].Value != 0;
+        }
+        EXPECT_GT(computed, 0);
     }
 }
 

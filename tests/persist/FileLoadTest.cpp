@@ -21,8 +21,8 @@ struct WindowLog {
     std::vector<std::string> calls;
     std::string title;
 
-    FileLoadSeams Seams() {
-        FileLoadSeams s;
+    FileLoadHooks Seams() {
+        FileLoadHooks s;
         s.resetDisplay = [this] { calls.push_back("resetDisplay"); };
         s.refresh = [this] { calls.push_back("refresh"); };
         s.setTitle = [this](const std::string& t) {

@@ -1,11 +1,10 @@
-#include "core/Activation.h"
+#include "commands/Activation.h"
 
-#include "core/AppPath.h"
-#include "core/Catalogue.h"
+#include "calc/mdlCulcurate.h"
 #include "core/Document.h"
 #include "core/Tables.h"
 #include "core/Templates.h"
-#include "core/UnitFile.h"
+#include "persist/mdlFile.h"
 
 namespace {
 
@@ -15,43 +14,31 @@ void Call(const std::function<void()>& f) {
 
 }  // namespace
 
-void Main_Prepare(const std::string& commandLine) {
-    if (!commandLine.empty()) {
-        CommandFileGiven = 1;
-        FileName = commandLine;
-    }
-    AppPath = AppPath_Find();
-    Init_ItemCounts();
-    Init_Templates();
-    Unit_LoadOrDefaults();
-    Disp_Reset();
-}
-
-void Main_Activate(const ActivationSeams& seams) {
+bool Main_Activate(const ActivationHooks& hooks) {
     if (CommandFileGiven == 1) {
         SelectedElement = 1;
-        if (seams.loadFile) seams.loadFile(FileName);
+        const bool loaded = File_Load(FileName, hooks.fileLoad);
         CommandFileGiven = 0;
         DocumentNamed = 1;
-        return;
+        return loaded;
     }
     switch (MecaResult) {
         case 1:
             Disp_Reset();
-            Call(seams.resetDisplay);
-            if (MecaTemplateNo != 0 && seams.setTitle)
-                seams.setTitle("Torvane-[" + std::string(Template_Name(MecaTemplateNo)) + "]");
+            Call(hooks.resetDisplay);
+            if (MecaTemplateNo != 0 && hooks.setTitle)
+                hooks.setTitle("Torvane-[" + std::string(Template_Name(MecaTemplateNo)) + "]");
             Template_Fill(MecaTemplateNo, true);
             SelectedElement = 1;
             ElementCount = MecaTemplateNo >= 0 && MecaTemplateNo < kTemplates ? MecaTemplateCount[MecaTemplateNo] : 1;
-            Call(seams.recalculate);
+            Culcurate_All();
             DocumentNamed = 0;
-            Call(seams.refresh);
+            Call(hooks.refresh);
             MecaResult = 0;
             break;
         case 2:
             Disp_Reset();
-            Call(seams.resetDisplay);
+            Call(hooks.resetDisplay);
             Template_Fill(MecaTemplateNo, false);
             DocumentNamed = 0;
             ElementCount = 1;
@@ -63,5 +50,6 @@ void Main_Activate(const ActivationSeams& seams) {
         default:
             break;
     }
-    Call(seams.setUnitRow);
+    Call(hooks.setUnitRow);
+    return true;
 }

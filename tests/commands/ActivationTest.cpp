@@ -1,11 +1,14 @@
 // Start-up without windows and what the main window does when it becomes active.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
-#include "core/Activation.h"
+#include "commands/Activation.h"
+#include "core/Startup.h"
 #include "core/Tables.h"
+#include "persist/mdlFile.h"
 #include "tests/support/TestState.h"
 #include "units/UnitTable.h"
 
@@ -14,17 +17,12 @@ namespace {
 // Records which seams the activation called, in order.
 struct SeamLog {
     std::vector<std::string> calls;
-    std::vector<std::string> loaded;
     std::string title;
 
-    ActivationSeams Seams() {
-        ActivationSeams s;
-        s.loadFile = [this](const std::string& path) {
-            calls.push_back("loadFile");
-            loaded.push_back(path);
-        };
+    ActivationHooks Seams() {
+        ActivationHooks s;
+        s.fileLoad.resetDisplay = [this] { calls.push_back("loadFile"); };
         s.resetDisplay = [this] { calls.push_back("resetDisplay"); };
-        s.recalculate = [this] { calls.push_back("recalculate"); };
         s.setTitle = [this](const std::string& t) {
             calls.push_back("setTitle");
             title = t;
@@ -40,7 +38,17 @@ struct SeamLog {
     }
 };
 
-class ActivationTest : public StateTest {};
+class ActivationTest : public StateTest {
+protected:
+    // A saved horizontal ball screw, the tables cleared again.
+    std::string Saved() {
+        const std::string path = appDir.File("lift.AP2");
+        Chain_Set({51, 1, 11, 31});
+        EXPECT_TRUE(File_Save(path));
+        State_Reset();
+        return path;
+    }
+};
 
 TEST_F(ActivationTest, CommandLineOfSeveralWordsIsOneFileName) {
     const std::string line = "  \"/home/user/my drives/lift axis 2.AP2\" --extra word  ";
@@ -73,28 +81,36 @@ TEST_F(ActivationTest, PrepareFillsTheTablesAndClearsTheDocument) {
 }
 
 TEST_F(ActivationTest, FileOnTheCommandLineIsLoadedAndNamed) {
-    Main_Prepare("/data/lift.AP2");
+    const std::string path = Saved();
+    Main_Prepare(path);
     MecaResult = 1;  // not looked at in this activation
     MecaTemplateNo = 1;
     SeamLog log;
-    Main_Activate(log.Seams());
-    ASSERT_EQ(log.loaded.size(), 1u);
-    EXPECT_EQ(log.loaded[0], "/data/lift.AP2");
+    EXPECT_TRUE(Main_Activate(log.Seams()));
     EXPECT_EQ(log.calls, std::vector<std::string>{"loadFile"});
+    EXPECT_EQ(FileName, path);
     EXPECT_EQ(DocumentNamed, 1);
     EXPECT_EQ(CommandFileGiven, 0);
     EXPECT_EQ(SelectedElement, 1);
     EXPECT_EQ(MecaResult, 1);
-    EXPECT_EQ(ElementCount, 1);
+    EXPECT_EQ(ElementCount, 4);
+    EXPECT_TRUE(msg.Seen().empty());
+}
+
+TEST_F(ActivationTest, AFileOnTheCommandLineThatCannotBeReadIsTold) {
+    Main_Prepare(appDir.File("none.AP2"));
+    EXPECT_FALSE(Main_Activate());
+    EXPECT_EQ(msg.Seen().at(0).text, "File read failed.");
+    EXPECT_EQ(DocumentNamed, 1);
 }
 
 TEST_F(ActivationTest, NextActivationAfterTheFileLooksAtTheSelection) {
-    Main_Prepare("/data/lift.AP2");
+    Main_Prepare(Saved());
     SeamLog log;
     Main_Activate(log.Seams());
     MecaResult = 3;
     Main_Activate(log.Seams());
-    EXPECT_EQ(log.loaded.size(), 1u);
+    EXPECT_EQ(std::count(log.calls.begin(), log.calls.end(), "loadFile"), 1);
     EXPECT_EQ(MecaResult, 0);
     EXPECT_TRUE(log.Called("setUnitRow"));
 }
@@ -172,7 +188,7 @@ TEST_F(ActivationTest, TemplateOneBuildsTheHorizontalBallscrew) {
     EXPECT_EQ(DocumentNamed, 0);
     EXPECT_EQ(DirtyFlag, 0);
     EXPECT_EQ(MecaResult, 0);
-    EXPECT_TRUE(log.Called("recalculate"));
+    EXPECT_NEAR(Element[2].Item[13].Value, 7.6e-5, 1e-7);  // the screw's inertia is computed
     EXPECT_TRUE(log.Called("refresh"));
     EXPECT_EQ(log.calls.back(), "setUnitRow");
     EXPECT_EQ(Element[2].Item[0].ItemText.Str(), "10");  // 0.01 m screw pitch in mm, formatted
@@ -227,7 +243,7 @@ TEST_F(ActivationTest, ActivationWorksWithoutAnySeam) {
     Main_Prepare("");
     MecaResult = 1;
     MecaTemplateNo = 7;
-    Main_Activate(ActivationSeams{});
+    Main_Activate();
     EXPECT_EQ(ElementCount, 4);
     EXPECT_EQ(Element[2].ElementType, 16);
 }
