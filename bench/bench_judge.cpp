@@ -58,11 +58,11 @@ struct Setup {
         for (int i = 0; i < 4; ++i) Patarn[i + 1] = rows[i];
         PatternRowCount = 4;
         Culcurate_All();
-        List1_Load(page);
-        lstS_Click(page, 0);
+        MotorPage_Load(page);
+        MotorPage_PickSeries(page, 0);
     }
     ~Setup() {
-        List1_Unload();
+        MotorPage_Unload();
         std::filesystem::remove_all(folder);
     }
 };
@@ -70,8 +70,8 @@ struct Setup {
 void BM_QueryAndJudge(benchmark::State& state) {
     Setup setup;
     for (auto _ : state) {
-        lstM_Click(setup.page, 0);
-        cmdJudge_Click(setup.page);
+        MotorPage_PickModel(setup.page, 0);
+        MotorPage_Judge(setup.page);
         benchmark::DoNotOptimize(setup.page.vsfData.Cell(kMotors + 1, 0).text.data());
     }
     state.SetItemsProcessed(state.iterations() * kMotors);
@@ -81,7 +81,7 @@ BENCHMARK(BM_QueryAndJudge)->Unit(benchmark::kMillisecond);
 void BM_JudgeOnly(benchmark::State& state) {
     Setup setup;
     for (auto _ : state) {
-        cmdJudge_Click(setup.page);
+        MotorPage_Judge(setup.page);
         benchmark::DoNotOptimize(setup.page.vsfData.Cell(kMotors + 1, 0).text.data());
     }
     state.SetItemsProcessed(state.iterations() * kMotors);

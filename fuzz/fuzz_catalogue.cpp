@@ -89,19 +89,19 @@ bool Build(const std::string& path, const std::vector<std::string>& fields) {
 
 void Run_Wizard() {
     MotorPage motors;
-    List1_Load(motors);
+    MotorPage_Load(motors);
     if (motors.lstS.empty()) return;
-    lstS_Click(motors, 0);
+    MotorPage_PickSeries(motors, 0);
     if (motors.lstM.empty()) return;
-    lstM_Click(motors, 0);
-    cmdJudge_Click(motors);
+    MotorPage_PickModel(motors, 0);
+    MotorPage_Judge(motors);
     for (int row = 2; row < 2 + MotorRowCount; ++row) {
-        vsfData_RowChange(motors, row);
+        MotorPage_MoveToRow(motors, row);
         DriverPage drivers;
-        if (!cmdNext_Click(motors, drivers)) continue;
-        List2_Activate(drivers);
+        if (!MotorPage_TakeMotor(motors, drivers)) continue;
+        DriverPage_Fill(drivers);
         drivers.Row = 1;
-        cmdDecide_Click(motors, drivers);
+        DriverPage_Finish(motors, drivers);
     }
 }
 
@@ -124,6 +124,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         Run_Wizard();
     } catch (const RuntimeError&) {
     }
-    List1_Unload();
+    MotorPage_Unload();
     return 0;
 }

@@ -43,7 +43,7 @@ void Driver_Row(Grid& grid, int row) {
 
 }  // namespace
 
-void List2_Activate(DriverPage& page) {
+void DriverPage_Fill(DriverPage& page) {
     Recordset_Open(Query_Drivers(SelectedMotorModel), DriverRecordset);  // a failure shows as no drivers
     Comment_Judge_Set();
     std::copy_n(Patarn.begin(), kPatarnRows + 1, PatarnTrial.begin());
@@ -55,7 +55,7 @@ void List2_Activate(DriverPage& page) {
     page.Row = kFixedRows;
 }
 
-bool cmdDecide_Click(const MotorPage& motors, const DriverPage& page) {
+bool DriverPage_Finish(const MotorPage& motors, const DriverPage& page) {
     if (page.Row >= page.DriverRowCount + 2 || page.Row < kFixedRows || page.DriverRowCount == 0) {
         MsgBox("Driver is not selected.", "Driver Selection", MsgIcon::Exclamation);
         return false;

@@ -21,9 +21,9 @@ struct DriverPage {
 
 // Rebuilds the grid: the drivers of SelectedMotorModel, each judged on
 // PatarnTrial with the candidate motor. Runs at every activation.
-void List2_Activate(DriverPage& page);
+void DriverPage_Fill(DriverPage& page);
 
 // "Finish": stores the motor of the motor page's current row and the driver
 // of this page's current row in the document and recalculates; false,
 // after the message, when no driver is selected.
-bool cmdDecide_Click(const MotorPage& motors, const DriverPage& page);
+bool DriverPage_Finish(const MotorPage& motors, const DriverPage& page);

@@ -50,7 +50,7 @@ void Judge_Rows(Grid& vsfData) {
 
 }  // namespace
 
-void List1_Load(MotorPage& page) {
+void MotorPage_Load(MotorPage& page) {
     Series_Connect();
     page.vsfData.Clear();
     Header_Format(page.vsfData);
@@ -58,7 +58,7 @@ void List1_Load(MotorPage& page) {
     if (Recordset_Open(Query_Series(), series) == 0) List_Fill(series, page.lstS, 0);
 }
 
-void lstS_Click(MotorPage& page, int index) {
+void MotorPage_PickSeries(MotorPage& page, int index) {
     page.lstSIndex = index;
     CurrentSeriesFlg = SeriesFlgList[index];
     CurrentSeriesID = SeriesIDList[index];
@@ -66,10 +66,10 @@ void lstS_Click(MotorPage& page, int index) {
     if (Recordset_Open(Query_Models(CurrentSeriesFlg), groups) != 0) return Recordset_Failed();
     List_Fill(groups, page.lstM, 1);
     page.lstMIndex = -1;
-    if (!page.lstM.empty()) lstM_Click(page, 0);
+    if (!page.lstM.empty()) MotorPage_PickModel(page, 0);
 }
 
-void lstM_Click(MotorPage& page, int index) {
+void MotorPage_PickModel(MotorPage& page, int index) {
     page.lstMIndex = index;
     CurrentModelFlg = ModelFlgList[index];
     if (Recordset_Open(Query_Motors(CurrentSeriesID, CurrentModelFlg), MotorRecordset) != 0)
@@ -83,15 +83,15 @@ void lstM_Click(MotorPage& page, int index) {
         MotorCommentList.push_back(MotorRecordset.Field("Comment").Text());
     }
     MotorRowCount = CInt(MotorRecordset.RecordCount());
-    vsfData_RowChange(page, kFixedRows);
+    MotorPage_MoveToRow(page, kFixedRows);
 }
 
-void vsfData_RowChange(MotorPage& page, int row) {
+void MotorPage_MoveToRow(MotorPage& page, int row) {
     page.Row = row;
     if (row >= kFixedRows && row <= MotorRowCount + 1) page.lblComment = MotorCommentList[row - 1];
 }
 
-bool cmdJudge_Click(MotorPage& page) {
+bool MotorPage_Judge(MotorPage& page) {
     if (page.lstSIndex < 0 || page.lstMIndex < 0) return false;
     std::copy_n(Patarn.begin(), kPatarnRows + 1, PatarnTrial.begin());
     if (MotorRecordset.RecordCount() > 0) MotorRecordset.MoveFirst();
@@ -103,7 +103,7 @@ bool cmdJudge_Click(MotorPage& page) {
     return true;
 }
 
-bool cmdNext_Click(const MotorPage& page, DriverPage& next) {
+bool MotorPage_TakeMotor(const MotorPage& page, DriverPage& next) {
     if (page.Row < kFixedRows || page.Row >= MotorRowCount + 2 || MotorRowCount == 0) {
         MsgBox("Motor is not selected.", "Motor Selection", MsgIcon::Exclamation);
         return false;
@@ -123,4 +123,4 @@ bool cmdNext_Click(const MotorPage& page, DriverPage& next) {
     return true;
 }
 
-void List1_Unload() { SeriesConnection.Close(); }
+void MotorPage_Unload() { SeriesConnection.Close(); }

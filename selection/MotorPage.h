@@ -27,27 +27,27 @@ inline std::string SelectedMotorModel;          // UTF-8
 inline std::vector<std::string> MotorCommentList;  // Comment by grid row minus 1
 
 // Opens the catalogue, writes the headers and fills lstS.
-void List1_Load(MotorPage& page);
+void MotorPage_Load(MotorPage& page);
 
 // Picks a series: fills lstM and picks its first group.
-void lstS_Click(MotorPage& page, int index);
+void MotorPage_PickSeries(MotorPage& page, int index);
 
 // Picks a model group: queries its motors into MotorRecordset and fills the
 // grid, verdicts empty.
-void lstM_Click(MotorPage& page, int index);
+void MotorPage_PickModel(MotorPage& page, int index);
 
 // Moves the current row; lblComment follows.
-void vsfData_RowChange(MotorPage& page, int row);
+void MotorPage_MoveToRow(MotorPage& page, int row);
 
 // "Judgement": judges every motor of the grid on PatarnTrial. True when
 // the motors were judged; without a pick nothing happens, and without a
 // pattern every motor is marked "NA" and the judgement ends there.
-bool cmdJudge_Click(MotorPage& page);
+bool MotorPage_Judge(MotorPage& page);
 
 // "Next >": takes the motor of the current row on as the candidate and
 // shows it on the driver page; false, after the message, when no motor is
 // selected.
-bool cmdNext_Click(const MotorPage& page, DriverPage& next);
+bool MotorPage_TakeMotor(const MotorPage& page, DriverPage& next);
 
 // Closes the catalogue; silent when it never opened.
-void List1_Unload();
+void MotorPage_Unload();

@@ -27,18 +27,18 @@ int IndexOf(const std::vector<std::string>& list, const std::string& name) {
 bool Open(const std::string& file, MotorPage& page) {
     Main_Prepare("");
     if (!File_Load(file)) return false;
-    List1_Load(page);
+    MotorPage_Load(page);
     return true;
 }
 
 // Walks the groups of every series until the motor's row is the current one.
 bool Motor_Find(MotorPage& page, const std::string& model) {
     for (int s = 0; s < static_cast<int>(page.lstS.size()); ++s) {
-        lstS_Click(page, s);
+        MotorPage_PickSeries(page, s);
         for (int g = 0; g < static_cast<int>(page.lstM.size()); ++g) {
-            if (g != 0) lstM_Click(page, g);
+            if (g != 0) MotorPage_PickModel(page, g);
             for (int row = kFixedRows; row < page.vsfData.Rows(); ++row)
-                if (page.vsfData.Cell(row, 1).text == model) return vsfData_RowChange(page, row), true;
+                if (page.vsfData.Cell(row, 1).text == model) return MotorPage_MoveToRow(page, row), true;
         }
     }
     return false;
@@ -47,8 +47,8 @@ bool Motor_Find(MotorPage& page, const std::string& model) {
 // The driver page of the motor, activated.
 bool Drivers_Open(MotorPage& page, DriverPage& drivers, const std::string& model) {
     if (!Motor_Find(page, model)) return false;
-    cmdNext_Click(page, drivers);
-    List2_Activate(drivers);
+    MotorPage_TakeMotor(page, drivers);
+    DriverPage_Fill(drivers);
     return true;
 }
 
@@ -65,10 +65,10 @@ void Print(const std::string& title, const Grid& grid, bool json) {
 int Run_Series(bool json) {
     Main_Prepare("");
     MotorPage page;
-    List1_Load(page);
+    MotorPage_Load(page);
     std::cout << (json ? "[" : "");
     for (int s = 0; s < static_cast<int>(page.lstS.size()); ++s) {
-        lstS_Click(page, s);
+        MotorPage_PickSeries(page, s);
         if (json) {
             std::cout << (s ? "," : "") << "{\"series\":" << Json_String(page.lstS[s]) << ",\"models\":[";
             for (std::size_t g = 0; g < page.lstM.size(); ++g) std::cout << (g ? "," : "") << Json_String(page.lstM[g]);
@@ -87,11 +87,11 @@ int Run_Judge(const std::string& file, const std::string& series, const std::str
     if (!Open(file, page)) return 1;
     const int s = IndexOf(page.lstS, series);
     if (s < 0) return NotFound("series", series);
-    lstS_Click(page, s);
+    MotorPage_PickSeries(page, s);
     const int g = IndexOf(page.lstM, model);
     if (g < 0) return NotFound("model", model);
-    lstM_Click(page, g);
-    cmdJudge_Click(page);
+    MotorPage_PickModel(page, g);
+    MotorPage_Judge(page);
     Print(series + " / " + model, page.vsfData, json);
     return 0;
 }
@@ -116,8 +116,8 @@ int Run_Select(const std::string& file, const std::string& motor, const std::str
         if (drivers.vsfDrvList.Cell(row, 1).text == driver) drivers.Row = row;
     if (drivers.Row < 0) return NotFound("driver of the motor", driver);
     if (!modelText.empty()) drivers.txtMotor = modelText;
-    if (!cmdDecide_Click(page, drivers)) return 1;
-    List1_Unload();
+    if (!DriverPage_Finish(page, drivers)) return 1;
+    MotorPage_Unload();
     return File_Save(out) ? 0 : 1;
 }
 

@@ -7,9 +7,9 @@
 
 #include "app/cli/ChainPrint.h"
 #include "app/cli/Json.h"
-#include "app/cli/ResultsCommand.h"
+#include "app/cli/ResultsCli.h"
 #include "app/cli/SelectionCli.h"
-#include "app/cli/SizeCommand.h"
+#include "app/cli/SizeCli.h"
 #include "base/MsgBox.h"
 #include "base/RuntimeError.h"
 #include "commands/Activation.h"

@@ -87,7 +87,7 @@ frmList1::frmList1(std::function<void()> decided, QWidget* parent)
         if (lstM->currentRow() >= 0) lstM_Click(lstM->currentRow());
     });
     vsfData->onRowChange = [this](int row) {
-        vsfData_RowChange(page_, row);
+        MotorPage_MoveToRow(page_, row);
         lblComment->setText(QString::fromStdString(page_.lblComment));
     };
     connect(cmdJudge, &QPushButton::clicked, this, &frmList1::cmdJudge_Click);
@@ -100,7 +100,7 @@ frmList1::frmList1(std::function<void()> decided, QWidget* parent)
 
 void frmList1::Form_Load() {
     Window_Load(this, kListWindowKeys);
-    Run_Guarded(kTitleMotorSelection, [this] { List1_Load(page_); });
+    Run_Guarded(kTitleMotorSelection, [this] { MotorPage_Load(page_); });
     Disp_Page();
 }
 
@@ -116,18 +116,18 @@ void frmList1::Disp_Page() {
 }
 
 void frmList1::lstS_Click(int index) {
-    Run_Guarded(kTitleMotorSelection, [&] { ::lstS_Click(page_, index); });
+    Run_Guarded(kTitleMotorSelection, [&] { MotorPage_PickSeries(page_, index); });
     Disp_Page();
 }
 
 void frmList1::lstM_Click(int index) {
-    Run_Guarded(kTitleMotorSelection, [&] { ::lstM_Click(page_, index); });
+    Run_Guarded(kTitleMotorSelection, [&] { MotorPage_PickModel(page_, index); });
     Disp_Page();
 }
 
 void frmList1::cmdJudge_Click() {
     bool judged = false;
-    Run_Guarded(kTitleMotorSelection, [&] { judged = ::cmdJudge_Click(page_); });
+    Run_Guarded(kTitleMotorSelection, [&] { judged = MotorPage_Judge(page_); });
     Disp_Page();
     if (judged) vsfData->setFocus();
 }
@@ -135,7 +135,7 @@ void frmList1::cmdJudge_Click() {
 void frmList1::cmdNext_Click() {
     DriverPage chosen;
     bool taken = false;
-    Run_Guarded(kTitleMotorSelection, [&] { taken = ::cmdNext_Click(page_, chosen); });
+    Run_Guarded(kTitleMotorSelection, [&] { taken = MotorPage_TakeMotor(page_, chosen); });
     if (!taken) return;
     if (!list2_) list2_ = new frmList2(this, decided_);
     list2_->Motor_Take(chosen);
@@ -169,7 +169,7 @@ void frmList1::changeEvent(QEvent* event) {
 void frmList1::closeEvent(QCloseEvent* event) {
     unloading_ = true;
     Window_Store(this, kListWindowKeys);
-    List1_Unload();
+    MotorPage_Unload();
     if (list2_) {
         list2_->Unload();
         list2_->deleteLater();

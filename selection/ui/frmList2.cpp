@@ -83,7 +83,7 @@ void frmList2::Motor_Take(const DriverPage& chosen) {
 }
 
 void frmList2::Form_Activate() {
-    skipActivation_ = !Run_Guarded(kTitle, [this] { List2_Activate(page_); });
+    skipActivation_ = !Run_Guarded(kTitle, [this] { DriverPage_Fill(page_); });
     vsfDrvList->Show(page_.vsfDrvList);
     const QSignalBlocker quiet(vsfDrvList);
     vsfDrvList->SetGridRow(page_.Row);
@@ -92,7 +92,7 @@ void frmList2::Form_Activate() {
 void frmList2::cmdDecide_Click() {
     page_.txtMotor = txtMotor->text().toStdString();
     bool decided = false;
-    Run_Guarded(kTitle, [&] { decided = ::cmdDecide_Click(list1_->Page(), page_); });
+    Run_Guarded(kTitle, [&] { decided = DriverPage_Finish(list1_->Page(), page_); });
     if (!decided) return;
     if (decided_) decided_();
     list1_->Wizard_Unload();

@@ -20,7 +20,7 @@ protected:
         SeriesDbTest::SetUp();
         std::filesystem::copy_file(Catalogue_Bundled(), appDir.File("Series.db"));
         Document_Sized();
-        List1_Load(page);
+        MotorPage_Load(page);
     }
     MotorPage page;
 };
@@ -56,17 +56,17 @@ TEST_F(BundledCatalogueTest, EveryMotorAndItsDriversAreJudged) {
     std::set<std::string> verdicts;
     int withoutDrivers = 0;
     for (int s = 0; s < static_cast<int>(page.lstS.size()); ++s) {
-        lstS_Click(page, s);
+        MotorPage_PickSeries(page, s);
         for (int g = 0; g < static_cast<int>(page.lstM.size()); ++g) {
-            lstM_Click(page, g);
+            MotorPage_PickModel(page, g);
             ASSERT_GT(MotorRowCount, 0);
-            ASSERT_NO_THROW(cmdJudge_Click(page));
+            ASSERT_NO_THROW(MotorPage_Judge(page));
             for (int row = 2; row < MotorRowCount + 2; ++row) {
                 verdicts.insert(page.vsfData.Cell(row, 0).text);
-                vsfData_RowChange(page, row);
+                MotorPage_MoveToRow(page, row);
                 DriverPage drivers;
-                ASSERT_TRUE(cmdNext_Click(page, drivers));
-                ASSERT_NO_THROW(List2_Activate(drivers));
+                ASSERT_TRUE(MotorPage_TakeMotor(page, drivers));
+                ASSERT_NO_THROW(DriverPage_Fill(drivers));
                 withoutDrivers += drivers.DriverRowCount == 0;
             }
         }

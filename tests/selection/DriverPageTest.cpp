@@ -39,10 +39,10 @@ protected:
               "INSERT INTO DriverTypeMaster VALUES (1, 'ok1', 'ng1', 0, 2), (2, 'ok2', 'ng2', 0, 1),"
               " (3, 'ok3', 'ng3', 2, 2), (4, 'ok4', 'ng4', 3, 3);" +
               drivers + fits);
-        List1_Load(motors);
-        lstS_Click(motors, 0);
-        ASSERT_TRUE(cmdNext_Click(motors, page));
-        List2_Activate(page);
+        MotorPage_Load(motors);
+        MotorPage_PickSeries(motors, 0);
+        ASSERT_TRUE(MotorPage_TakeMotor(motors, page));
+        DriverPage_Fill(page);
     }
     static std::string Driver(const std::string& model, const std::string& r1, const std::string& r2, int type) {
         return "INSERT INTO DriverTable VALUES ('" + model + "', " + r1 + ", " + r2 + ", " + std::to_string(type) +
@@ -138,7 +138,7 @@ TEST_F(DriverPageTest, ActivationRebuildsAndPutsTheRowBackToTwo) {
     Open(Driver("D1", "1e6", "1e6", 1) + Driver("D2", "1e6", "1e6", 1));
     page.Row = 3;
     page.vsfDrvList.Cell(2, 0).text = "stale";
-    List2_Activate(page);
+    DriverPage_Fill(page);
     EXPECT_EQ(page.Row, 2);
     EXPECT_EQ(Cell(2, 0).text, "OK");
     EXPECT_EQ(page.vsfDrvList.Rows(), 4);
@@ -154,7 +154,7 @@ TEST_F(DriverPageTest, QuoteInTheMotorModelFailsTheQuerySilently) {
 TEST_F(DriverPageTest, MotorWithoutDriversGivesAnEmptyGridAndFinishRefuses) {
     Open(Driver("D1", "1e6", "1e6", 1), "M-alone");
     EXPECT_EQ(page.vsfDrvList.Rows(), 2);
-    EXPECT_FALSE(cmdDecide_Click(motors, page));
+    EXPECT_FALSE(DriverPage_Finish(motors, page));
     ASSERT_EQ(msg.Seen().size(), 1u);
     EXPECT_EQ(msg.Seen()[0].text, "Driver is not selected.");
     EXPECT_EQ(msg.Seen()[0].title, "Driver Selection");
@@ -166,7 +166,7 @@ TEST_F(DriverPageTest, FinishStoresMotorAndDriverAndRecalculates) {
     page.Row = 3;
     page.txtMotor = "M1-OPT";  // does not change the query, but reaches the document
     ResultValues[1][4] = 77;
-    ASSERT_TRUE(cmdDecide_Click(motors, page));
+    ASSERT_TRUE(DriverPage_Finish(motors, page));
     EXPECT_EQ(SelectedJm, kJm);
     EXPECT_EQ(SelectedMotorMass, 2);
     EXPECT_EQ(ResultValues[1][0], 1.5);
@@ -193,7 +193,7 @@ TEST_F(DriverPageTest, FinishLeavesRatingsOfBlankFields) {
     Open(Driver("D1", "NULL", "NULL", 1));
     ResultValues[1][4] = 77;
     ResultValues[1][5] = 88;
-    ASSERT_TRUE(cmdDecide_Click(motors, page));
+    ASSERT_TRUE(DriverPage_Finish(motors, page));
     EXPECT_EQ(ResultValues[1][4], 77);
     EXPECT_EQ(ResultValues[1][5], 88);
 }

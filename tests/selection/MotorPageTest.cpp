@@ -37,8 +37,8 @@ protected:
         Build("INSERT INTO MotorSeriesMaster VALUES ('S', 10, 1);"
               "INSERT INTO ModelMaster VALUES (10, 'G', 1), (10, 'Empty', 2);" +
               motors);
-        List1_Load(page);
-        lstS_Click(page, 0);
+        MotorPage_Load(page);
+        MotorPage_PickSeries(page, 0);
     }
     std::string Verdict(int row) const { return page.vsfData.Cell(row, 0).text; }
 
@@ -48,7 +48,7 @@ protected:
 };
 
 TEST_F(MotorPageTest, MissingCatalogueGivesItsMessageAndEmptyLists) {
-    List1_Load(page);
+    MotorPage_Load(page);
     ASSERT_EQ(msg.Seen().size(), 1u);
     EXPECT_EQ(msg.Seen()[0].text, "Series.db File was not found.");
     EXPECT_TRUE(page.lstS.empty());
@@ -68,16 +68,16 @@ TEST_F(MotorPageTest, SeriesPickFillsGroupsAndTheFirstGroupsMotors) {
     EXPECT_EQ(page.vsfData.Cell(0, 1).text, "Model number");
     EXPECT_EQ(page.vsfData.Cell(1, 1).text, "<Units>");
     EXPECT_EQ(page.lblComment, "about M1");
-    vsfData_RowChange(page, 3);
+    MotorPage_MoveToRow(page, 3);
     EXPECT_EQ(page.lblComment, "about M2");
 }
 
 TEST_F(MotorPageTest, GroupWithoutMotorsHasOnlyHeadersAndNextRefuses) {
     Open(Kept("M1", 100));
-    lstM_Click(page, 1);
+    MotorPage_PickModel(page, 1);
     EXPECT_EQ(page.vsfData.Rows(), 2);
     EXPECT_EQ(MotorRowCount, 0);
-    EXPECT_FALSE(cmdNext_Click(page, next));
+    EXPECT_FALSE(MotorPage_TakeMotor(page, next));
     ASSERT_EQ(msg.Seen().size(), 1u);
     EXPECT_EQ(msg.Seen()[0].text, "Motor is not selected.");
     EXPECT_EQ(msg.Seen()[0].title, "Motor Selection");
@@ -94,7 +94,7 @@ TEST_F(MotorPageTest, BlankCapacitySortsFirstAndLeavesItsCellEmpty) {
 TEST_F(MotorPageTest, JudgementGivesOkFairNgAndDash) {
     Open(Kept("A-ok", 100) + Kept("B-fair", 200, v.T1 / 0.9) + Kept("C-ng", 300, v.T1 / 1.1) +
          Motor("D-none", 400, 0, 0, 0, 0, 0));
-    EXPECT_TRUE(cmdJudge_Click(page));
+    EXPECT_TRUE(MotorPage_Judge(page));
     EXPECT_EQ(Verdict(2), "OK");
     EXPECT_EQ(Verdict(3), "FAIR");
     EXPECT_EQ(page.vsfData.Cell(3, 0).color, kColorOrange);
@@ -105,7 +105,7 @@ TEST_F(MotorPageTest, JudgementGivesOkFairNgAndDash) {
 
 TEST_F(MotorPageTest, OnlyRatedTorqueZeroIsJudgedOnTheRest) {
     Open(Motor("M1", 100, 0, 2 * v.T2, 2 * v.N, kJm, 1000) + Motor("M2", 200, 0, 2 * v.T2, v.N / 2, kJm, 1000));
-    cmdJudge_Click(page);
+    MotorPage_Judge(page);
     EXPECT_EQ(Verdict(2), "OK");
     EXPECT_EQ(Verdict(3), "NG");
     EXPECT_EQ(page.vsfData.Cell(3, 3).color, kColorRed);
@@ -113,9 +113,9 @@ TEST_F(MotorPageTest, OnlyRatedTorqueZeroIsJudgedOnTheRest) {
 
 TEST_F(MotorPageTest, JudgingTwiceGivesTheSame) {
     Open(Kept("A", 100) + Kept("B", 200, v.T1 / 0.9) + Kept("C", 300, 0, 0.5 * v.JL / kJm));
-    cmdJudge_Click(page);
+    MotorPage_Judge(page);
     const std::vector<std::string> first = {Verdict(2), Verdict(3), Verdict(4)};
-    cmdJudge_Click(page);
+    MotorPage_Judge(page);
     EXPECT_EQ((std::vector<std::string>{Verdict(2), Verdict(3), Verdict(4)}), first);
     EXPECT_EQ(first, (std::vector<std::string>{"OK", "FAIR", "NG"}));
 }
@@ -124,7 +124,7 @@ TEST_F(MotorPageTest, JudgementLeavesTheDocumentAlone) {
     Open(Kept("A", 100));
     const PatarnTable before = Patarn;
     const auto results = ResultValues;
-    cmdJudge_Click(page);
+    MotorPage_Judge(page);
     for (int i = 0; i <= kPatarnRows; ++i) EXPECT_EQ(Patarn[i].Torque, before[i].Torque);
     EXPECT_EQ(ResultValues, results);
 }
@@ -132,14 +132,14 @@ TEST_F(MotorPageTest, JudgementLeavesTheDocumentAlone) {
 TEST_F(MotorPageTest, LoadInertiaThatCannotBeComputedCountsAsZero) {
     ElementCount = 1;  // the motor alone: no load inertia
     Open(Motor("M1", 100, 1000, 1000, 1e5, kJm, 1e-9));
-    cmdJudge_Click(page);
+    MotorPage_Judge(page);
     EXPECT_EQ(Verdict(2), "OK");
 }
 
 TEST_F(MotorPageTest, NoPatternGivesNa) {
     Open(Kept("A", 100) + Kept("B", 200));
     PatternRowCount = 0;
-    EXPECT_FALSE(cmdJudge_Click(page));  // the judgement ends with the marks
+    EXPECT_FALSE(MotorPage_Judge(page));  // the judgement ends with the marks
     EXPECT_EQ(Verdict(2), "NA");
     EXPECT_EQ(Verdict(3), "NA");
     EXPECT_TRUE(page.vsfData.Cell(3, 0).bold);
@@ -147,20 +147,20 @@ TEST_F(MotorPageTest, NoPatternGivesNa) {
 
 TEST_F(MotorPageTest, NoPickJudgesNothing) {
     Build("INSERT INTO MotorSeriesMaster VALUES ('S', 10, 1);");
-    List1_Load(page);
-    EXPECT_FALSE(cmdJudge_Click(page));
+    MotorPage_Load(page);
+    EXPECT_FALSE(MotorPage_Judge(page));
     EXPECT_EQ(page.vsfData.Rows(), 2);
 }
 
 TEST_F(MotorPageTest, NoRotorInertiaWithAllowableRatioEndsTheJudgement) {
     Open(Motor("M1", 100, 1, 1, 1, 0, 10));
-    EXPECT_THROW(cmdJudge_Click(page), RuntimeError);
+    EXPECT_THROW(MotorPage_Judge(page), RuntimeError);
 }
 
 TEST_F(MotorPageTest, NextTakesTheCandidate) {
     Open(Kept("A", 100) + Motor("B-brake", 200, 1, 3, 3000, 2e-4, 10, "5e-5", "3.5"));
-    vsfData_RowChange(page, 3);
-    ASSERT_TRUE(cmdNext_Click(page, next));
+    MotorPage_MoveToRow(page, 3);
+    ASSERT_TRUE(MotorPage_TakeMotor(page, next));
     EXPECT_EQ(SelectedMotorModel, "B-brake");
     EXPECT_DOUBLE_EQ(CandidateJm, 2.5e-4);
     EXPECT_DOUBLE_EQ(CandidateJb, 5e-5);
@@ -173,7 +173,7 @@ TEST_F(MotorPageTest, NextWithBlankBrakeKeepsTheOldInertia) {
     Open(Kept("A", 100));
     CandidateJm = 7;
     CandidateJb = 8;
-    ASSERT_TRUE(cmdNext_Click(page, next));
+    ASSERT_TRUE(MotorPage_TakeMotor(page, next));
     EXPECT_EQ(CandidateJm, 7);
     EXPECT_EQ(CandidateJb, 8);
     EXPECT_EQ(CandidateMotorMass, 2);
@@ -181,26 +181,26 @@ TEST_F(MotorPageTest, NextWithBlankBrakeKeepsTheOldInertia) {
 
 TEST_F(MotorPageTest, NextRefusesRowsOutsideTheMotors) {
     Open(Kept("A", 100));
-    vsfData_RowChange(page, 1);
-    EXPECT_FALSE(cmdNext_Click(page, next));
-    vsfData_RowChange(page, 3);
-    EXPECT_FALSE(cmdNext_Click(page, next));
+    MotorPage_MoveToRow(page, 1);
+    EXPECT_FALSE(MotorPage_TakeMotor(page, next));
+    MotorPage_MoveToRow(page, 3);
+    EXPECT_FALSE(MotorPage_TakeMotor(page, next));
     EXPECT_EQ(msg.Seen().size(), 2u);
 }
 
 TEST_F(MotorPageTest, NgMotorMayBeTakenOn) {
     Open(Kept("C", 300, v.T1 / 1.1));
-    cmdJudge_Click(page);
+    MotorPage_Judge(page);
     EXPECT_EQ(Verdict(2), "NG");
-    EXPECT_TRUE(cmdNext_Click(page, next));
+    EXPECT_TRUE(MotorPage_TakeMotor(page, next));
 }
 
 TEST_F(MotorPageTest, TwelveGroupsEndTheFillingWithAFailure) {
     std::string rows = "INSERT INTO MotorSeriesMaster VALUES ('S', 10, 1);";
     for (int i = 1; i <= 12; ++i) rows += "INSERT INTO ModelMaster VALUES (10, 'G" + std::to_string(i) + "', 1);";
     Build(rows);
-    List1_Load(page);
-    EXPECT_THROW(lstS_Click(page, 0), RuntimeError);
+    MotorPage_Load(page);
+    EXPECT_THROW(MotorPage_PickSeries(page, 0), RuntimeError);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "app/cli/ResultsCommand.h"
+#include "app/cli/ResultsCli.h"
 
 #include "core/Startup.h"
 #include "persist/mdlFile.h"

@@ -1,4 +1,4 @@
-#include "app/cli/SizeCommand.h"
+#include "app/cli/SizeCli.h"
 
 #include <iostream>
 
