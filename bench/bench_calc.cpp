@@ -29,8 +29,8 @@ void Fresh_Document() {
 }
 
 void Pattern_Row(int16_t row, double dt, double speed) {
-    Patarn_SetField(Patarn, row, 0, 1, dt, FieldDeltaTime);
-    Patarn_SetField(Patarn, row, 5, 0, speed, FieldSpeed);
+    Patarn_SetField(Patarn, row, UnitKind::Time, 1, dt, FieldDeltaTime);
+    Patarn_SetField(Patarn, row, UnitKind::MotorSpeed, 0, speed, FieldSpeed);
 }
 
 // The horizontal ballscrew template with a trapezoid and a rest row.
@@ -88,7 +88,7 @@ void BM_PatternTorques_Trial19Components20Rows(benchmark::State& state) {
     PatarnTrial = Patarn;
     for (auto _ : state) {
         double Jm = 0.0002, mass = 3;
-        Pattern_Torques(PatarnTrial, 2, Jm, mass);
+        Pattern_Torques(PatarnTrial, kMotorTrial, Jm, mass);
         benchmark::DoNotOptimize(PatarnTrial);
     }
 }

@@ -43,13 +43,13 @@ double Load_Inertia(const ElementTable& elements, int16_t flag, double& mass) {
     int16_t status = 0;
     if (first.ElementType >= 41 && first.ElementType <= 49) {
         // Whatever the caller passed: the chosen motor rides on the cart.
-        mass = flag != 0 ? SelectedMotorMass : 0;
+        mass = flag != kMotorNone ? SelectedMotorMass : 0;
         status = Special_Inertia(first, mass, JL, ratio);
     } else {
         status = Chain_Inertia(1, ElementCount - 1, JL, ratio);
     }
     if (status != 0) return -1;
-    if (flag != 2) {
+    if (flag != kMotorTrial) {
         LoadInertiaTotal = SelectedJb + JL;
         TotalRatio = ratio;
     }

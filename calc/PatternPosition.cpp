@@ -15,8 +15,8 @@ void Pattern_Position(PatarnTable& table) {
         const double before = i == 1 ? 0 : table[i - 1].LoadSpeed;
         d = d + FromS(kind, unit, before + table[i].LoadSpeed) * table[i].DeltaTime / 2;
         if (rotating)
-            Patarn_SetField(table, i, 3, 2, d, FieldPosition);
+            Patarn_SetField(table, i, UnitKind::Rotation, 2, d, FieldPosition);
         else
-            Patarn_SetField(table, i, 2, 0, d, FieldPosition);
+            Patarn_SetField(table, i, UnitKind::Distance, 0, d, FieldPosition);
     }
 }

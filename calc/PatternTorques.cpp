@@ -3,12 +3,14 @@
 
 #include "calc/mdlCulcurate.h"
 #include "core/PatarnRows.h"
+#include "units/UnitTable.h"
 
 namespace {
 
+// Regeneration is written through kind 12, which converts nothing.
 void Mark_Row(PatarnTable& rows, int16_t row) {
-    Patarn_SetField(rows, row, 10, 1, kOver, FieldTorque);
-    Patarn_SetField(rows, row, 12, 0, kOver, FieldRegeneration);
+    Patarn_SetField(rows, row, UnitKind::Torque, 1, kOver, FieldTorque);
+    Patarn_SetField(rows, row, UnitKind::Density, 0, kOver, FieldRegeneration);
 }
 
 // A division by zero, an overflow or an invalid operation anywhere in the
@@ -21,7 +23,7 @@ bool All_Finite(double T, double R) {
 }  // namespace
 
 void Pattern_Torques(PatarnTable& rows, int16_t flag, double& Jm, double& mass) {
-    if (flag == 0) {
+    if (flag == kMotorNone) {
         Jm = 0;
         mass = 0;
     }
@@ -45,7 +47,7 @@ void Pattern_Torques(PatarnTable& rows, int16_t flag, double& Jm, double& mass) 
             Mark_Row(rows, i);
             return;
         }
-        Patarn_SetField(rows, i, 10, 1, T, FieldTorque);
-        Patarn_SetField(rows, i, 12, 0, R, FieldRegeneration);
+        Patarn_SetField(rows, i, UnitKind::Torque, 1, T, FieldTorque);
+        Patarn_SetField(rows, i, UnitKind::Density, 0, R, FieldRegeneration);
     }
 }

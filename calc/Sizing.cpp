@@ -30,13 +30,13 @@ double Effective_Torque(const PatarnTable& table) {
     // Every row takes part with its own duration, idle rows too.
     double S = 0, U = 0;
     for (int16_t i = 1; i <= n; ++i) {
-        const double T = FromS(10, 1, table[i].Torque);
-        const double t = FromS(0, 1, table[i].DeltaTime);
+        const double T = FromS(UnitKind::Torque, 1, table[i].Torque);
+        const double t = FromS(UnitKind::Time, 1, table[i].DeltaTime);
         if (Is_Marked(T) || Is_Marked(t)) return kOver;
         S = S + T * T * t;
         U = U + t;
     }
-    return Finite_Or_Over(ToS(10, 1, std::sqrt(S / U)));
+    return Finite_Or_Over(ToS(UnitKind::Torque, 1, std::sqrt(S / U)));
 }
 
 double Max_Torque(const PatarnTable& table) { return Largest(table, &PatarnRow::Torque, true); }

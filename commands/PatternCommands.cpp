@@ -5,9 +5,10 @@
 #include "base/MsgBox.h"
 #include "base/Numeric.h"
 #include "calc/mdlCulcurate.h"
+#include "core/PatarnRows.h"
 #include "core/Tables.h"
 #include "pattern/GridText.h"
-#include "core/PatarnRows.h"
+#include "units/UnitTable.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ void StoreCell(int gridRow, int col, double value) {
     switch (col) {
         case 1:
             Store(i, 1, value);
-            Patarn_SetField(Patarn, i, 0, 1, Patarn[i].Time - Patarn[i - 1].Time, FieldDeltaTime);
+            Patarn_SetField(Patarn, i, UnitKind::Time, 1, Patarn[i].Time - Patarn[i - 1].Time, FieldDeltaTime);
             break;
         case 2: Store(i, 2, value); break;
         case 3: {

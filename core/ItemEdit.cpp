@@ -120,7 +120,7 @@ bool ValidateEdit(int16_t element, int gridRow, std::string& text) {
     if (v < 0 && Trim(item.ItemName.Str()) != "Angle of incline" && item.UnitKind != 9 && item.UnitKind != 10)
         return Refuse();
     if (v == 0 && ZeroRefused(e.ElementType, gridRow)) return Refuse();
-    if (item.UnitKind == 11 && item.UnitIndex == 1 && (v > 100 || v == 0)) return Refuse();
+    if (item.UnitKind == UnitKind::Fixed && item.UnitIndex == 1 && (v > 100 || v == 0)) return Refuse();
     if (name.find("inner diameter") != std::string::npos && !(v < Diameter_Outer(element))) return Refuse();
     if (name.find("outer diameter") != std::string::npos && !(v > Diameter_Inner(element))) return Refuse();
 
@@ -135,7 +135,7 @@ void ItemEdit_Store(int16_t element, int gridRow, const std::string& text, bool 
     ElementItem& item = e.Item[gridRow - 1];
     double v = Val(text);
     if (directInertia && Text_HoldsLower(item.ItemName.Str(), "inertia")) {
-        e.DirectValue = ToS(8, UnitTable[8].Sel, v);
+        e.DirectValue = ToS(UnitKind::Inertia, UnitTable[UnitKind::Inertia].Sel, v);
         return;
     }
     const auto slash = text.find('/');

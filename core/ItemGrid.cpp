@@ -26,7 +26,7 @@ ItemGridRow Item_GridRow(const ElementRecord& element, int gridRow) {
     if (item.ItemName.Str().empty()) return row;
     row.name = item.ItemName.Str();
     if (gridRow == kItemGridRows) {
-        row.unit = Unit_Name(8, UnitTable[8].Sel);
+        row.unit = Unit_Name(UnitKind::Inertia, UnitTable[UnitKind::Inertia].Sel);
         row.setting = Num_Format(Val(item.ItemText.Str()), 1, 0);
     } else {
         row.unit = Unit_Name(item.UnitKind, item.UnitIndex);

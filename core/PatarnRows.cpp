@@ -22,7 +22,7 @@ constexpr double PatarnRow::*kFields[] = {
 bool InTable(int16_t row) { return row >= 0 && row < kPatarnRecords; }
 
 void SetDeltaTime(PatarnTable& table, int16_t row, double seconds) {
-    Patarn_SetField(table, row, 0, 1, seconds, FieldDeltaTime);
+    Patarn_SetField(table, row, UnitKind::Time, 1, seconds, FieldDeltaTime);
 }
 
 }  // namespace
@@ -70,7 +70,7 @@ void Patarn_UpdateTimes(PatarnTable& table) {
     while (end <= kPatarnRows && table[end].RowState != 0 && table[end].RowState != kSpeedSide) ++end;
     for (int16_t row = 1; row < end; ++row) {
         const double before = row == 1 ? 0 : table[row - 1].Time;
-        Patarn_SetField(table, row, 0, 1, before + table[row].DeltaTime, FieldTime);
+        Patarn_SetField(table, row, UnitKind::Time, 1, before + table[row].DeltaTime, FieldTime);
     }
 }
 
@@ -79,24 +79,24 @@ void Patarn_SetLoadSpeed(PatarnTable& table, int16_t row, int16_t byDistance, do
     const PatarnRow& r = table[row];
     double speed = 0;
     if (byDistance == 0) {
-        speed = TotalRatio * FromS(5, 1, r.Speed);
+        speed = TotalRatio * FromS(UnitKind::MotorSpeed, 1, r.Speed);
     } else {
         if (r.DeltaTime == 0) return;
         speed = (2 * distance - startSpeed * r.DeltaTime) / r.DeltaTime;
     }
     if (LoadMotion == 1)
-        Patarn_SetField(table, row, 6, 1, speed, FieldLoadSpeed);
+        Patarn_SetField(table, row, UnitKind::RotationalSpeed, 1, speed, FieldLoadSpeed);
     else
-        Patarn_SetField(table, row, 4, 2, speed, FieldLoadSpeed);
+        Patarn_SetField(table, row, UnitKind::Speed, 2, speed, FieldLoadSpeed);
 }
 
 void Patarn_SetSpeed(PatarnTable& table, int16_t row) {
     if (!InTable(row)) return;
     const double load = table[row].LoadSpeed;
     const double motor = TotalRatio == 0 ? load : load / TotalRatio;
-    const int16_t unit = UnitTable[5].Sel;
-    const double shown = Val(Format_Mask(FromS(5, unit, ToS(5, 1, motor)), kMask1));
-    Patarn_SetField(table, row, 5, unit, shown, FieldSpeed);
+    const int16_t unit = UnitTable[UnitKind::MotorSpeed].Sel;
+    const double shown = Val(Format_Mask(FromS(UnitKind::MotorSpeed, unit, ToS(UnitKind::MotorSpeed, 1, motor)), kMask1));
+    Patarn_SetField(table, row, UnitKind::MotorSpeed, unit, shown, FieldSpeed);
 }
 
 void Patarn_Retime(PatarnTable& table, int16_t gridRow) {
@@ -122,7 +122,7 @@ void Patarn_SplitZero(PatarnTable& table) {
         const int16_t next = table[i + 1].RowState;
         if (!Patarn_SignChange(table, i) || (next != 0 && next != kComplete)) continue;
         Patarn_InsertRow(table, i + 1);
-        Patarn_SetField(table, i + 1, 6, UnitTable[6].Sel, 0, FieldSpeed);
+        Patarn_SetField(table, i + 1, UnitKind::RotationalSpeed, UnitTable[UnitKind::RotationalSpeed].Sel, 0, FieldSpeed);
         const double whole = table[i + 2].DeltaTime;
         const double tz = std::fabs(table[i].Speed) * whole / std::fabs(table[i].Speed - table[i + 2].Speed);
         SetDeltaTime(table, i + 1, tz);

@@ -115,6 +115,9 @@ inline int16_t DirtyFlag = 0;
 inline int16_t MecaTemplateNo = 0;
 inline int16_t MecaResult = 0;  // 0 nothing, 1 template, 2 motor alone, 3 cancelled
 inline int16_t MotorSelected = 0;  // 0 none, 1 chosen, 2 candidate being calculated
+// The motor flag of the calculation: none chosen, chosen, and the trial of a
+// catalogue motor by the selection pages, which stores and changes nothing.
+inline constexpr int16_t kMotorNone = 0, kMotorChosen = 1, kMotorTrial = 2;
 inline double SelectedJm = 0, SelectedJb = 0, SelectedMotorMass = 0;
 inline double CandidateJm = 0, CandidateJb = 0, CandidateMotorMass = 0;
 inline int16_t SelectedElement = 0;

@@ -25,11 +25,11 @@ struct ResultRowDef {
 
 // Rows 2, 4 and 5 test other values than they show; the grid has always done so.
 constexpr std::array<ResultRowDef, 7> kResultRows = {{
-    {"Effective torque", EffectiveTorque, 10, "", EffectiveTorque, EffectiveTorque},
-    {"Stopping torque", StoppingTorque, 10, "", EffectiveTorque, EffectiveTorque},
-    {"Maximum torque", MaxTorque, 10, "", MaxTorque, MaxTorque},
-    {"Inertia", Inertia, 8, "", MaxRotationalSpeed, Inertia},
-    {"Maximum rotational speed", MaxRotationalSpeed, 5, "", Inertia, MaxRotationalSpeed},
+    {"Effective torque", EffectiveTorque, UnitKind::Torque, "", EffectiveTorque, EffectiveTorque},
+    {"Stopping torque", StoppingTorque, UnitKind::Torque, "", EffectiveTorque, EffectiveTorque},
+    {"Maximum torque", MaxTorque, UnitKind::Torque, "", MaxTorque, MaxTorque},
+    {"Inertia", Inertia, UnitKind::Inertia, "", MaxRotationalSpeed, Inertia},
+    {"Maximum rotational speed", MaxRotationalSpeed, UnitKind::MotorSpeed, "", Inertia, MaxRotationalSpeed},
     {"Amount of rotation", Regeneration1, -1, "J(max.)", Regeneration1, Regeneration1},
     {"Amount of rotation", Regeneration2, -1, "W", Regeneration2, Regeneration2},
 }};
@@ -50,11 +50,11 @@ CellColour RatioColour(double code, int row) {
 ColumnUnit Patarn_ColumnUnit(int col, int16_t loadMotion) {
     switch (col) {
         case 1:
-        case 2: return Picked(0);
-        case 3: return Picked(5);
-        case 4: return Picked(loadMotion == 1 ? 6 : 4);
-        case 5: return Picked(loadMotion == 1 ? 3 : 2);
-        default: return Picked(10);
+        case 2: return Picked(UnitKind::Time);
+        case 3: return Picked(UnitKind::MotorSpeed);
+        case 4: return Picked(loadMotion == 1 ? UnitKind::RotationalSpeed : UnitKind::Speed);
+        case 5: return Picked(loadMotion == 1 ? UnitKind::Rotation : UnitKind::Distance);
+        default: return Picked(UnitKind::Torque);
     }
 }
 

@@ -31,9 +31,9 @@ void Accel_Limits(TrapezoidForm& f) {
         return;
     }
     const double T = Val(f.mebMoveTime), D = std::fabs(Val(f.mebMoveDistance));
-    const double Ts = ToS(0, Picked(0), T);
+    const double Ts = ToS(UnitKind::Time, Picked(UnitKind::Time), T);
     f.AccelMin = Kept((2 * D / Ts) / (Ts / 2));
-    const double Tm = ToS(0, Picked(0), T - 0.001), t1 = ToS(0, Picked(0), 0.001);
+    const double Tm = ToS(UnitKind::Time, Picked(UnitKind::Time), T - 0.001), t1 = ToS(UnitKind::Time, Picked(UnitKind::Time), 0.001);
     f.AccelMax = Kept(Cut3((D / Tm) / t1));
 }
 
@@ -68,8 +68,8 @@ bool Trapezoid_MayOpen(int gridRow) {
 }
 
 void Trapezoid_Activate(TrapezoidForm& form) {
-    form.lblTime = Unit_Name(0, Picked(0));
-    form.lblLength = LoadMotion == 1 ? Unit_Name(3, Picked(3)) : Unit_Name(2, Picked(2));
+    form.lblTime = Unit_Name(UnitKind::Time, Picked(UnitKind::Time));
+    form.lblLength = LoadMotion == 1 ? Unit_Name(UnitKind::Rotation, Picked(UnitKind::Rotation)) : Unit_Name(UnitKind::Distance, Picked(UnitKind::Distance));
     form.lblRapid = form.lblLength + "/S2";
 }
 
@@ -169,16 +169,16 @@ bool Trapezoid_OK(TrapezoidForm& f, int gridRow) {
         Tell("An item has not been input.");
         return false;
     }
-    double T = ToS(0, Picked(0), Val(f.mebMoveTime));
+    double T = ToS(UnitKind::Time, Picked(UnitKind::Time), Val(f.mebMoveTime));
     const double D = Val(f.mebMoveDistance);
     double Ta = 0;
     if (f.optTime) {
-        Ta = ToS(0, Picked(0), Val(f.mebAccelTime));
+        Ta = ToS(UnitKind::Time, Picked(UnitKind::Time), Val(f.mebAccelTime));
     } else {
         // The acceleration always goes through the length unit, even for a rotation.
-        double a = ToS(2, Picked(2), Val(f.mebAccel));
+        double a = ToS(UnitKind::Distance, Picked(UnitKind::Distance), Val(f.mebAccel));
         if (!(D > 0)) a = -a;
-        const double Dm = ToS(2, Picked(2), D);
+        const double Dm = ToS(UnitKind::Distance, Picked(UnitKind::Distance), D);
         const double q = std::sqrt(a * a * T * T - 4 * a * Dm);
         const double r1 = (T * a + q) / (2 * a), r2 = (T * a - q) / (2 * a);
         if (r1 > 0 || r2 > 0) Ta = std::min(r1, r2);
@@ -205,7 +205,7 @@ void Make_Patarn(double& T, double& Ta, [[maybe_unused]] double& D, double& V, i
     for (int16_t k = 0; k < n; ++k) {
         const auto row = static_cast<int16_t>(s + k);
         if (row < 1 || row > kPatarnRows) continue;
-        Patarn_SetField(Patarn, row, 0, 1, times[k], FieldDeltaTime);
+        Patarn_SetField(Patarn, row, UnitKind::Time, 1, times[k], FieldDeltaTime);
         Patarn_SetField(Patarn, row, speedKind, speedUnit, speeds[k], FieldLoadSpeed);
     }
     Patarn_UpdateTimes(Patarn);

@@ -28,7 +28,7 @@ void Driver_Row(Grid& grid, int row) {
     const double limit2 = Limit(regeneration2);
     double Jm = CandidateJm;
     double mass = CandidateMotorMass;
-    Pattern_Torques(PatarnTrial, 2, Jm, mass);
+    Pattern_Torques(PatarnTrial, kMotorTrial, Jm, mass);
     const double value1 = Regeneration_Peak(PatarnTrial);
     const double value2 = Regeneration_Mean(PatarnTrial);
     const int16_t code = Regeneration_Judge(limit1, limit2, value1, value2);

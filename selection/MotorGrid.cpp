@@ -7,13 +7,12 @@
 
 namespace {
 
-enum Kind : int16_t { kSpeed = 5, kMass = 7, kInertia = 8, kTorque = 10 };
 
 std::string ChosenUnit(int16_t kind) { return Cp1252_ToUtf8(Unit_Name(kind, UnitTable[kind].Sel)); }
 
 double Shown(int16_t kind, double value) { return FromS(kind, UnitTable[kind].Sel, value); }
 
-std::string MassText(double kg) { return kg == 0 ? "0" : Format_Mask(Shown(kMass, kg), kMaskOpt2); }
+std::string MassText(double kg) { return kg == 0 ? "0" : Format_Mask(Shown(UnitKind::Mass, kg), kMaskOpt2); }
 
 // How a column turns its field into text; the field is not blank.
 std::string CellText(int col, const FieldValue& field) {
@@ -21,13 +20,13 @@ std::string CellText(int col, const FieldValue& field) {
     switch (col) {
         case 1: return field.Text();
         case 2: return Format_Mask(v, kMaskWhole);
-        case 3: return Format_Mask(Shown(kSpeed, v), kMaskOpt1);
-        case 4: return Num_Format(Shown(kInertia, v), 1, 0);
+        case 3: return Format_Mask(Shown(UnitKind::MotorSpeed, v), kMaskOpt1);
+        case 4: return Num_Format(Shown(UnitKind::Inertia, v), 1, 0);
         case 5:
-        case 6: return Num_Format(Shown(kTorque, v), 0, 1);
+        case 6: return Num_Format(Shown(UnitKind::Torque, v), 0, 1);
         case 7: return Format_Mask(v, kMaskWhole);
         case 8: return MassText(v);
-        default: return Num_Format(Shown(kInertia, v), 1, 0);
+        default: return Num_Format(Shown(UnitKind::Inertia, v), 1, 0);
     }
 }
 
@@ -52,8 +51,8 @@ const std::array<GridColumn, kMotorCols> kMotorColumns = {{
 
 void Header_Format(Grid& vsfData) {
     const std::array<std::string, kMotorCols> units = {
-        "", "<Units>", "W", ChosenUnit(kSpeed), ChosenUnit(kInertia), ChosenUnit(kTorque),
-        ChosenUnit(kTorque), "Ratio", ChosenUnit(kMass), ChosenUnit(kInertia)};
+        "", "<Units>", "W", ChosenUnit(UnitKind::MotorSpeed), ChosenUnit(UnitKind::Inertia), ChosenUnit(UnitKind::Torque),
+        ChosenUnit(UnitKind::Torque), "Ratio", ChosenUnit(UnitKind::Mass), ChosenUnit(UnitKind::Inertia)};
     for (int col = 0; col < kMotorCols; ++col) {
         vsfData.Cell(0, col).text = kMotorColumns[col].caption;
         vsfData.Cell(1, col).text = units[col];

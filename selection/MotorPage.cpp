@@ -35,12 +35,12 @@ void Judge_Rows(Grid& vsfData) {
         const MotorLimits motor = Limits(MotorRecordset);
         double Jm = MotorRecordset.Field("BrakeInertia").Num() + motor.Inertia;
         double mass = MotorRecordset.Field("mass").Num();
-        Pattern_Torques(PatarnTrial, 2, Jm, mass);
+        Pattern_Torques(PatarnTrial, kMotorTrial, Jm, mass);
         MotorLoad load;
         load.T1 = Effective_Torque(PatarnTrial);
         load.T2 = Max_Torque(PatarnTrial);
         load.N = Max_Speed(PatarnTrial);
-        const double inertia = Load_Inertia(Element, 2, mass);
+        const double inertia = Load_Inertia(Element, kMotorTrial, mass);
         if (inertia != -1) JL = inertia;
         load.JL = JL;
         load.T3 = Stopping_Torque(PatarnTrial);

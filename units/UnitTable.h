@@ -11,6 +11,29 @@ struct UnitCategory {
     std::array<std::string, 7> Names;  // single-byte code page texts
 };
 
+// The unit categories: 0 to 10 have units the user picks, 11 to 15 fixed
+// labels. Written UnitKind::MotorSpeed; the numbers are those of the files.
+namespace UnitKind {
+enum : int16_t {
+    Time = 0,
+    Length = 1,
+    Distance = 2,         // operating distance
+    Rotation = 3,
+    Speed = 4,
+    MotorSpeed = 5,       // base unit r/min
+    RotationalSpeed = 6,  // base unit rad/s
+    Mass = 7,
+    Inertia = 8,
+    Force = 9,
+    Torque = 10,
+    Fixed = 11,  // "-", "%", "OUT/IN" or none
+    Density = 12,
+    Power = 13,
+    Energy = 14,
+    Rate = 15,
+};
+}  // namespace UnitKind
+
 inline constexpr int kUnitCategories = 11;
 inline constexpr int16_t kUnitNotUsed = 9999;
 
