@@ -15,8 +15,18 @@
 #include "core/Templates.h"
 #include "units/UnitTable.h"
 
+// The folder, and the log that lands beside it, go with the process.
+struct FuzzFolder {
+    std::string path;
+    ~FuzzFolder() {
+        std::error_code ec;
+        std::filesystem::remove_all(path, ec);
+        std::filesystem::remove(path + "History.log", ec);
+    }
+};
+
 inline const std::string& Fuzz_Folder() {
-    static const std::string dir = [] {
+    static const FuzzFolder folder{[] {
         std::error_code ec;
         const std::filesystem::path base =
             std::filesystem::is_directory("/dev/shm", ec) ? "/dev/shm" : std::filesystem::temp_directory_path();
@@ -27,9 +37,9 @@ inline const std::string& Fuzz_Folder() {
         Unit_SetNames();
         for (int k = 0; k < kUnitCategories; ++k) UnitTable[k].Sel = kUnitFreshSel[k];
         return d;
-    }();
-    AppPath = dir;
-    return dir;
+    }()};
+    AppPath = folder.path;
+    return folder.path;
 }
 
 // The input, byte for byte, as the file at path.

@@ -9,3 +9,8 @@
 // True when the file now holds exactly the bytes. On false the target is
 // untouched and no temporary file is left behind.
 bool File_Replace(const std::string& path, std::string_view bytes);
+
+// Replaces the target whole with a copy of the source file's bytes, read in
+// chunks whatever its size. False when the source cannot be read or the
+// target written; the target is then untouched.
+bool File_CopyOver(const std::string& source, const std::string& target);

@@ -21,9 +21,7 @@ bool Same_File(const std::string& a, const std::string& b) {
 bool Backup_Unread(const std::string& path) {
     if (UnreadFile.empty() || !Same_File(path, UnreadFile) || !File_Readable(path)) return true;
     const std::string backup = path + ".bak";
-    std::error_code ec;
-    std::filesystem::copy_file(path, backup, std::filesystem::copy_options::overwrite_existing, ec);
-    if (ec) return false;
+    if (!File_CopyOver(path, backup)) return false;
     History_Append(History_Path(), "The file " + path + " could not be read; its former bytes were kept as " + backup);
     return true;
 }
