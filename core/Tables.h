@@ -135,3 +135,19 @@ inline std::array<int16_t, 52> ElementItemCount{};
 inline constexpr int kTemplates = 10;
 inline std::array<std::array<int16_t, 11>, kElementSlots> MecaTemplate{};  // (slot, template)
 inline std::array<int16_t, 11> MecaTemplateCount{};
+
+// --- the process-wide state that lives beside its own layer ------------------------
+//
+// Every other global of the headless program, each in the header of the layer
+// that owns it; a test resets all of them, and everything above, through one
+// helper (State_Reset of the tests' support).
+//
+//   units/UnitTable.h         UnitTable
+//   calc/mdlCulcurate.h       TorqueAcc, TorqueEx, TorqueFric (the parts of the last interval)
+//   selection/mdlDataBase.h   SeriesConnection, MotorRecordset, DriverRecordset, SeriesFlgList,
+//                             SeriesIDList, ModelFlgList, CurrentSeriesFlg, CurrentSeriesID,
+//                             CurrentModelFlg
+//   selection/MotorPage.h     MotorRowCount, SelectedMotorModel, MotorCommentList
+//   selection/DriverJudge.h   DriverTypes
+//   persist/mdlFile.h         UnreadFile
+//   base/MsgBox.cpp           the installed message handler (MsgBox_SetHandler)

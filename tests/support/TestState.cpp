@@ -5,11 +5,15 @@
 #include <fstream>
 #include <sstream>
 
+#include "calc/mdlCulcurate.h"
 #include "core/Catalogue.h"
 #include "core/Document.h"
 #include "core/Tables.h"
 #include "core/Templates.h"
 #include "persist/mdlFile.h"
+#include "selection/DriverJudge.h"
+#include "selection/MotorPage.h"
+#include "selection/mdlDataBase.h"
 #include "units/UnitTable.h"
 
 void State_Reset() {
@@ -26,6 +30,19 @@ void State_Reset() {
     ItemTab = 1;
     LoadInertiaTotal = TotalRatio = 0;
     Disp_Reset();
+    // The state of the other layers, as core/Tables.h lists it.
+    TorqueAcc = TorqueEx = TorqueFric = 0;
+    SeriesConnection.Close();
+    MotorRecordset.Close();
+    DriverRecordset.Close();
+    SeriesFlgList.fill(0);
+    SeriesIDList.fill(0);
+    ModelFlgList.fill(0);
+    CurrentSeriesFlg = CurrentSeriesID = CurrentModelFlg = 0;
+    MotorRowCount = 0;
+    SelectedMotorModel.clear();
+    MotorCommentList.clear();
+    DriverTypes.clear();
 }
 
 TempDir::TempDir() {
