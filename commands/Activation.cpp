@@ -1,6 +1,7 @@
 #include "commands/Activation.h"
 
 #include "calc/mdlCulcurate.h"
+#include "core/Caption.h"
 #include "core/Document.h"
 #include "core/Tables.h"
 #include "core/Templates.h"
@@ -27,7 +28,7 @@ bool Main_Activate(const ActivationHooks& hooks) {
             Disp_Reset();
             Call(hooks.resetDisplay);
             if (MecaTemplateNo != 0 && hooks.setTitle)
-                hooks.setTitle("Torvane-[" + std::string(Template_Name(MecaTemplateNo)) + "]");
+                hooks.setTitle(Caption_Of(Template_Name(MecaTemplateNo)));
             Template_Fill(MecaTemplateNo, true);
             SelectedElement = 1;
             ElementCount = MecaTemplateNo >= 0 && MecaTemplateNo < kTemplates ? MecaTemplateCount[MecaTemplateNo] : 1;

@@ -2,6 +2,7 @@
 #include "base/ReadFile.h"
 #include "base/RuntimeError.h"
 #include "calc/mdlCulcurate.h"
+#include "core/Caption.h"
 #include "core/Document.h"
 #include "core/Tables.h"
 #include "core/Text.h"
@@ -40,9 +41,9 @@ void Selected_FromMotor() {
 
 }  // namespace
 
-bool File_Load(const std::string& path, const FileLoadHooks& seams) {
+bool File_Load(const std::string& path, const FileLoadHooks& hooks) {
     Disp_Reset();
-    Call(seams.resetDisplay);
+    Call(hooks.resetDisplay);
 
     // No layout is longer than the current one: a longer file is read as far
     // as the layout goes, and a device or a huge file is never read to its end.
@@ -58,12 +59,8 @@ bool File_Load(const std::string& path, const FileLoadHooks& seams) {
     PatternRowCount = Patarn_CountRows(Patarn);
     const bool unitsSaved = Run_Step(Unit_Save);
     const bool calculated = Run_Step(Culcurate_All);
-    Call(seams.refresh);
-    if (seams.setTitle) {
-        std::string dir, name;
-        Path_Split(path, dir, name);
-        seams.setTitle("Torvane-[" + name + "]");
-    }
-    Call(seams.showInfobox);
+    Call(hooks.refresh);
+    if (hooks.setTitle) hooks.setTitle(Caption_OfFile(path));
+    Call(hooks.showInfobox);
     return result == FileReadResult::Read && unitsSaved && calculated;
 }

@@ -36,4 +36,4 @@ bool File_Save(const std::string& path);
 // "File read failed." is shown, the fields read so far stay and the loading
 // goes on. Returns true when the file was read whole and every step after
 // it ran without a failure.
-bool File_Load(const std::string& path, const FileLoadHooks& seams = {});
+bool File_Load(const std::string& path, const FileLoadHooks& hooks = {});

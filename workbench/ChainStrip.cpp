@@ -26,7 +26,7 @@ ChainStrip::ChainStrip(QWidget* parent) : QWidget(parent) {
     setObjectName("ChainStrip");
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(6);
-    for (int s = 0; s < 8; ++s) {
+    for (int s = 0; s < kStripSlots; ++s) {
         Shape1[s] = new QFrame(this);
         Shape1[s]->setObjectName(QString("Shape1_%1").arg(s));
         Shape1[s]->setFrameShape(QFrame::Box);
@@ -51,7 +51,7 @@ ChainStrip::ChainStrip(QWidget* parent) : QWidget(parent) {
     HScroll1 = new QScrollBar(Qt::Horizontal, this);
     HScroll1->setObjectName("HScroll1");
     HScroll1->setRange(0, 12);
-    HScroll1->setPageStep(8);
+    HScroll1->setPageStep(kStripSlots);
     connect(HScroll1, &QScrollBar::valueChanged, this, [this](int v) {
         if (onScroll) onScroll(v);
     });
@@ -64,7 +64,7 @@ ChainStrip::ChainStrip(QWidget* parent) : QWidget(parent) {
 }
 
 void ChainStrip::Disp_Strip(int first) {
-    for (int s = 0; s < 8; ++s) {
+    for (int s = 0; s < kStripSlots; ++s) {
         const int i = first + s;
         const int16_t type = (i >= 0 && i < kElementSlots) ? Element[i].ElementType : kTypeEmpty;
         imgElement[s]->setPixmap(Picture_Type(type, kSlotPicture));
@@ -74,16 +74,16 @@ void ChainStrip::Disp_Strip(int first) {
 }
 
 void ChainStrip::SetSelectedLook(int slot, bool selected) {
-    if (slot < 0 || slot > 7) return;
+    if (slot < 0 || slot >= kStripSlots) return;
     SelectionLook_Set(Shape1[slot], lblElement[slot], selected);
 }
 
 void ChainStrip::ClearLooks() {
-    for (int s = 0; s < 8; ++s) SetSelectedLook(s, false);
+    for (int s = 0; s < kStripSlots; ++s) SetSelectedLook(s, false);
 }
 
 int ChainStrip::SlotOf(QObject* watched) const {
-    for (int s = 0; s < 8; ++s)
+    for (int s = 0; s < kStripSlots; ++s)
         if (imgElement[s] == watched) return s;
     return -1;
 }

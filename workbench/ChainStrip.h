@@ -7,6 +7,8 @@
 #include <array>
 #include <functional>
 
+#include "commands/StripCommands.h"
+
 class QLabel;
 class QFrame;
 class QScrollBar;
@@ -18,12 +20,12 @@ class ChainStrip : public QWidget {
 public:
     explicit ChainStrip(QWidget* parent = nullptr);
 
-    std::array<QLabel*, 8> imgElement{};
-    std::array<QLabel*, 8> lblElement{};
-    std::array<QFrame*, 8> Shape1{};
+    std::array<QLabel*, kStripSlots> imgElement{};
+    std::array<QLabel*, kStripSlots> lblElement{};
+    std::array<QFrame*, kStripSlots> Shape1{};
     QScrollBar* HScroll1 = nullptr;
 
-    // Shows the elements first .. first+7.
+    // Shows the elements first .. first + kStripSlots - 1.
     void Disp_Strip(int first);
     // The looks of a slot.
     void SetSelectedLook(int slot, bool selected);

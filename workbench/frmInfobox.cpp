@@ -304,37 +304,30 @@ void frmInfobox::Check_Set(int16_t type, int16_t mode) {
 
 void frmInfobox::Check1_Click() {
     if (SelectedElement < 1 || SelectedElement >= ElementCount) return;
-    vsfElement->setUpdatesEnabled(false);
-    int row = GridRow();
     const bool on = Check1->isChecked();
-    const bool wasDirect = Element[SelectedElement].InputMode == 1;
-    Run_Guarded("Torvane", [on] { Item_DirectInertia(SelectedElement, on); });
-    if (on) {
-        Check2->setEnabled(false);
-        row = kItemGridRows;
-    } else if (wasDirect) {
-        for (int r = 1; r <= kItemGridRows - 1; ++r) Restore_Row(r);
-        Check2->setEnabled(true);
-    }
-    if (refresh_) refresh_();
-    vsfElement->setCurrentCell(row - 1, 2);
-    vsfElement->setUpdatesEnabled(true);
+    const int row = on ? kItemGridRows : GridRow();
+    Direct_Toggled(1, [on] { Item_DirectInertia(SelectedElement, on); }, row);
 }
 
 void frmInfobox::Check2_Click() {
     if (SelectedElement < 1 || SelectedElement >= ElementCount) return;
-    vsfElement->setUpdatesEnabled(false);
     const bool on = Check2->isChecked();
-    const bool wasDirect = Element[SelectedElement].InputMode == 2;
-    Run_Guarded("Torvane", [on] { Item_DirectMass(SelectedElement, on); });
-    if (on) {
-        Check1->setEnabled(false);
-    } else if (wasDirect) {
+    Direct_Toggled(2, [on] { Item_DirectMass(SelectedElement, on); }, 1);
+}
+
+// A direct entry turned on or off by the core: rows that come back lose their
+// grey, the boxes follow the core's rule for the element's new mode, and the
+// cursor lands on the grid row.
+void frmInfobox::Direct_Toggled(int16_t mode, const std::function<void()>& toggle, int row) {
+    vsfElement->setUpdatesEnabled(false);
+    const bool wasDirect = Element[SelectedElement].InputMode == mode;
+    Run_Guarded("Torvane", toggle);
+    if (wasDirect && Element[SelectedElement].InputMode != mode)
         for (int r = 1; r <= kItemGridRows - 1; ++r) Restore_Row(r);
-        if (Element[SelectedElement].ElementType == 5) Check1->setEnabled(true);
-    }
     if (refresh_) refresh_();
-    vsfElement->setCurrentCell(0, 2);
+    const ElementRecord& e = Element[SelectedElement];
+    Check_Set(e.ElementType, e.InputMode);
+    vsfElement->setCurrentCell(row - 1, 2);
     vsfElement->setUpdatesEnabled(true);
 }
 

@@ -60,6 +60,7 @@ private:
     void Check_Set(int16_t type, int16_t mode);
     void Grid_Clear();
     void Restore_Row(int gridRow);
+    void Direct_Toggled(int16_t mode, const std::function<void()>& toggle, int row);
     bool AfterEdit(int gridRow, QString& text);
 
     std::function<void()> refresh_;

@@ -22,6 +22,10 @@
 #include "common/ui/EditorDetach.h"
 #include "common/ui/RunGuarded.h"
 #include "commands/Activation.h"
+#include "commands/ResultsCommand.h"
+#include "commands/SelectionCommands.h"
+#include "commands/StripCommands.h"
+#include "core/Caption.h"
 #include "core/Catalogue.h"
 #include "core/Document.h"
 #include "core/Tables.h"
@@ -249,7 +253,7 @@ void frmMain::Disp_Reset() {
     picTorquePatarn->Disp_Graph(Patarn, 0);
     strip->Disp_Strip(0);
     strip->ClearLooks();
-    setWindowTitle("Torvane-[Create application]");
+    setWindowTitle(QString::fromStdString(Caption_Of("Create application")));
     strip->HScroll1->setValue(0);
     infobox_->Infobox_Clear();
     vsfPatarn->scrollToTop();
@@ -293,18 +297,12 @@ void frmMain::Disp_Loaded() {
 void frmMain::HScroll1_Change(int value) {
     strip->Disp_Strip(value);
     strip->ClearLooks();
-    if (SelectedElement != 0 && SelectedElement - value >= 0 && SelectedElement - value <= 7)
-        strip->SetSelectedLook(SelectedElement - value, true);
-    FirstVisible = static_cast<int16_t>(value);
+    if (const int slot = Strip_SelectedSlot(value); slot >= 0) strip->SetSelectedLook(slot, true);
+    Strip_Scroll(value);
 }
 
 void frmMain::imgElement_Click(int index) {
-    const int p = FirstVisible + index;
-    if (p >= 1 && p < ElementCount) {
-        SelectedElement = static_cast<int16_t>(p);
-    } else {
-        SelectedElement = 0;
-    }
+    Strip_Click(index);
     HScroll1_Change(FirstVisible);
     if (SelectedElement != 0) infobox_->cboElement_Select(SelectedElement - 1);
     infobox_->show();
@@ -312,9 +310,7 @@ void frmMain::imgElement_Click(int index) {
 
 // The selected element comes into the visible slots of the strip, highlighted.
 void frmMain::Strip_ShowSelected() {
-    int first = strip->HScroll1->value();
-    if (SelectedElement < first) first = SelectedElement;
-    if (SelectedElement > first + 7) first = SelectedElement - 7;
+    const int first = Strip_FirstShowing(strip->HScroll1->value());
     strip->HScroll1->setValue(first);
     HScroll1_Change(first);
 }
@@ -330,12 +326,9 @@ void frmMain::Picture1_KeyDown(int key) {
     switch (key) {
         case Qt::Key_Delete: RunCommand([this] { mnuDelete1_Click(); }); return;
         case Qt::Key_Left:
-            if (SelectedElement > 1) --SelectedElement;
-            else strip->HScroll1->setValue(0);
+            if (Strip_Left()) strip->HScroll1->setValue(0);
             break;
-        case Qt::Key_Right:
-            if (SelectedElement < ElementCount - 1) ++SelectedElement;
-            break;
+        case Qt::Key_Right: Strip_Right(); break;
         default: return;
     }
     HScroll1_Change(strip->HScroll1->value());
@@ -393,19 +386,11 @@ void frmMain::mnuPerSet_Click() {
 }
 
 void frmMain::mnuCulcurate_Click() {
-    if (ElementCount <= 1) {
-        MsgBox("Calculation results cannot be saved because there are no connected components.", "",
-               MsgIcon::Critical);
-        return;
-    }
-    SaveResults();
+    Results_Command([this](std::string& fileName) { return AskResultsFile(fileName); });
 }
 
 void frmMain::mnuMortorSelect_Click() {
-    if (PatternRowCount == 0) {
-        MsgBox("Motor cannot be selected because operating pattern is not input.", "", MsgIcon::Exclamation);
-        return;
-    }
+    if (!MotorSelection_MayOpen()) return;
     if (list1_) {  // the wizard is up already: its page comes to the front
         QWidget* page = list1_->ShownPage();
         page->raise();

@@ -103,7 +103,7 @@ private:
     void StorePosition();
     bool ConfirmLeave();
     FileLoadHooks LoadHooks();
-    void SaveResults();
+    bool AskResultsFile(std::string& fileName);
 
     frmMeca* meca_ = nullptr;
     frmPatarn* patarn_ = nullptr;

@@ -1,15 +1,12 @@
 // The file commands of the main window: New's question, Open, Save, Save As,
 // Save Results, and the position kept at closing.
 #include <QApplication>
-#include <QFileInfo>
 
-#include "base/MsgBox.h"
 #include "commands/DocumentCommands.h"
+#include "common/ui/QtSettingsStore.h"
 #include "core/Tables.h"
 #include "persist/mdlFile.h"
-#include "reports/mdlFileOutput.h"
 #include "workbench/FileDialog.h"
-#include "common/ui/QtSettingsStore.h"
 #include "workbench/frmMain.h"
 
 namespace {
@@ -51,25 +48,21 @@ void frmMain::mnuFileOpen_Click() {
 bool frmMain::mnuFileSave_Click() {
     if (DocumentNamed != 1) return mnuFileSaveAs_Click();
     Hourglass wait;
-    if (!File_Save(FileName)) return false;
-    DirtyFlag = 0;
-    return true;
+    return Document_Save();
 }
 
 bool frmMain::mnuFileSaveAs_Click() {
     const QString path = FileDialog_Save(this, kDocumentFilter);
     if (path.isEmpty()) return false;
-    if (!File_Save(path.toStdString())) return false;
-    DirtyFlag = 0;
-    FileName = path.toStdString();
-    setWindowTitle("Torvane-[" + QFileInfo(path).fileName() + "]");
+    const std::string caption = Document_SaveAs(path.toStdString());
+    if (caption.empty()) return false;
+    setWindowTitle(QString::fromStdString(caption));
     return true;
 }
 
-void frmMain::SaveResults() {
-    const QString path = FileDialog_Save(this, kResultsFilter);
-    if (path.isEmpty()) return;
-    Results_Save(path.toStdString());
+bool frmMain::AskResultsFile(std::string& fileName) {
+    fileName = FileDialog_Save(this, kResultsFilter).toStdString();
+    return !fileName.empty();
 }
 
 void frmMain::StorePosition() { Window_Store(this, kMainWindowKeys); }

@@ -2,7 +2,7 @@
 
 #include "core/Startup.h"
 #include "persist/mdlFile.h"
-#include "reports/ResultsCommand.h"
+#include "commands/ResultsCommand.h"
 
 ResultsCli::ResultsCli(CLI::App& app) {
     results_ = app.add_subcommand("results", "Open an application file and write its calculation results file");

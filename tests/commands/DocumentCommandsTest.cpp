@@ -4,6 +4,7 @@
 #include "base/MsgBox.h"
 #include "commands/DocumentCommands.h"
 #include "core/Tables.h"
+#include "persist/mdlFile.h"
 #include "tests/support/TestState.h"
 
 namespace {
@@ -89,6 +90,41 @@ TEST_F(DocumentCommandsTest, AnUnansweredQuestionIsDeclinedLikeCancel) {
     EXPECT_FALSE(Document_ConfirmLeave(Save(true)));
     ExpectTheQuestion();
     EXPECT_EQ(saves, 0);
+}
+
+}  // namespace
+
+namespace {
+
+class SaveCommandsTest : public StateTest {};
+
+TEST_F(SaveCommandsTest, SaveWritesToTheDocumentsFileAndClearsTheDirtyMark) {
+    Chain_Set({51, 1, 11, 31});
+    FileName = appDir.File("doc.AP2");
+    DirtyFlag = 1;
+    EXPECT_TRUE(Document_Save());
+    EXPECT_EQ(DirtyFlag, 0);
+    EXPECT_EQ(ReadFile(FileName), File_Bytes());
+}
+
+TEST_F(SaveCommandsTest, SaveAsNamesTheFileAndGivesTheCaption) {
+    DirtyFlag = 1;
+    EXPECT_EQ(Document_SaveAs(appDir.File("lift axis.AP2")), "Torvane-[lift axis.AP2]");
+    EXPECT_EQ(FileName, appDir.File("lift axis.AP2"));
+    EXPECT_EQ(DirtyFlag, 0);
+    EXPECT_EQ(DocumentNamed, 0);  // as it was
+}
+
+TEST_F(SaveCommandsTest, AFailedSaveKeepsTheMarkAndTheName) {
+    FileName = appDir.File("doc.AP2");
+    DirtyFlag = 1;
+    EXPECT_EQ(Document_SaveAs(appDir.File("no folder/doc.AP2")), "");
+    EXPECT_EQ(FileName, appDir.File("doc.AP2"));
+    EXPECT_EQ(DirtyFlag, 1);
+    FileName = appDir.File("no folder/doc.AP2");
+    EXPECT_FALSE(Document_Save());
+    EXPECT_EQ(DirtyFlag, 1);
+    EXPECT_EQ(msg.Seen().at(0).text, "File write failed.");
 }
 
 }  // namespace

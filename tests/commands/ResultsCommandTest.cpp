@@ -4,7 +4,7 @@
 
 #include "calc/mdlCulcurate.h"
 #include "core/Tables.h"
-#include "reports/ResultsCommand.h"
+#include "commands/ResultsCommand.h"
 #include "tests/reports/ReportFixture.h"
 
 using ResultsCommandTest = ReportTest;

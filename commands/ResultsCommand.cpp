@@ -1,4 +1,4 @@
-#include "reports/ResultsCommand.h"
+#include "commands/ResultsCommand.h"
 
 #include "base/MsgBox.h"
 #include "core/Tables.h"
