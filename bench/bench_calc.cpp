@@ -9,6 +9,7 @@
 #include "calc/mdlCulcurate.h"
 #include "core/Catalogue.h"
 #include "core/Document.h"
+#include "tests/selection/SizedDocument.h"
 #include "core/Templates.h"
 #include "core/PatarnRows.h"
 #include "units/UnitTable.h"
@@ -21,6 +22,9 @@ void Fresh_Document() {
     Unit_SetNames();
     for (int k = 0; k < kUnitCategories; ++k) UnitTable[k].Sel = kUnitFreshSel[k];
     Disp_Reset();
+}
+
+void Motor_Chosen() {
     MotorSelected = 1;
     SelectedJm = 0.00003;
     SelectedJb = 0.00001;
@@ -33,21 +37,19 @@ void Pattern_Row(int16_t row, double dt, double speed) {
     Patarn_SetField(Patarn, row, UnitKind::MotorSpeed, 0, speed, FieldSpeed);
 }
 
-// The horizontal ballscrew template with a trapezoid and a rest row.
+// The tests' sized horizontal ballscrew (a trapezoid and a rest row) with a
+// chosen motor.
 void Horizontal_Ballscrew() {
     Fresh_Document();
-    Template_Fill(1, false);
-    ElementCount = MecaTemplateCount[1];
-    Pattern_Row(1, 0.1, 3000);
-    Pattern_Row(2, 0.5, 3000);
-    Pattern_Row(3, 0.1, 0);
-    Pattern_Row(4, 0.3, 0);
+    Document_Sized();
+    Motor_Chosen();
 }
 
 // The longest chain: 18 gears and a ballscrew behind the motor, and 20 rows
 // of five trapezoids.
 void Longest_Chain() {
     Fresh_Document();
+    Motor_Chosen();
     for (int16_t slot = 1; slot <= 18; ++slot) {
         Element[slot].ElementType = 2;
         Item_Defaults(2, Element[slot].Item);

@@ -10,6 +10,7 @@
 #include "calc/mdlCulcurate.h"
 #include "core/Startup.h"
 #include "core/Document.h"
+#include "tests/selection/SizedDocument.h"
 #include "core/Tables.h"
 #include "selection/MotorPage.h"
 
@@ -51,13 +52,7 @@ struct Setup {
         sqlite3_exec(db, Generated().c_str(), nullptr, nullptr, nullptr);
         sqlite3_close(db);
         Main_Prepare("");
-        Template_Fill(1, true);
-        ElementCount = MecaTemplateCount[1];
-        const PatarnRow rows[] = {{0, 0.1, 3000, 0, 0, 0, 0, 3}, {0, 0.5, 3000, 0, 0, 0, 0, 3},
-                                  {0, 0.1, 0, 0, 0, 0, 0, 3}, {0, 0.3, 0, 0, 0, 0, 0, 3}};
-        for (int i = 0; i < 4; ++i) Patarn[i + 1] = rows[i];
-        PatternRowCount = 4;
-        Culcurate_All();
+        Document_Sized();
         MotorPage_Load(page);
         MotorPage_PickSeries(page, 0);
     }

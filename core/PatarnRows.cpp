@@ -1,5 +1,6 @@
 #include "core/PatarnRows.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/NumberFormat.h"
@@ -40,6 +41,10 @@ void Patarn_SetField(PatarnTable& table, int16_t row, int16_t kind, int16_t unit
     r.*kFields[field] = value == kOver ? value : ToS(kind, unit, value);
     if (field == FieldTime || field == FieldDeltaTime) r.RowState |= kTimeSide;
     if (field == FieldSpeed || field == FieldLoadSpeed) r.RowState |= kSpeedSide;
+}
+
+void Patarn_CopyRows(const PatarnTable& from, PatarnTable& to) {
+    std::copy_n(from.begin(), kPatarnRows + 1, to.begin());
 }
 
 void Patarn_ClearRow(PatarnTable& table, int16_t row) {

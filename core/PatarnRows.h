@@ -26,6 +26,10 @@ enum PatarnField : int16_t {
 // fields bit 1. Field 7 sets RowState itself; a field outside 0 to 7 is ignored.
 void Patarn_SetField(PatarnTable& table, int16_t row, int16_t kind, int16_t unit, double value, int16_t field);
 
+// Rows 0 to 20 of one table into the other, as the selection pages refresh
+// their trial table from the document's; row 21 stays as it was.
+void Patarn_CopyRows(const PatarnTable& from, PatarnTable& to);
+
 // All fields of the row to 0.
 void Patarn_ClearRow(PatarnTable& table, int16_t row);
 

@@ -5,6 +5,7 @@
 #include "base/MsgBox.h"
 #include "base/Numeric.h"
 #include "calc/mdlCulcurate.h"
+#include "core/PatarnRows.h"
 #include "core/Tables.h"
 #include "selection/DriverJudge.h"
 #include "selection/MotorPage.h"
@@ -46,7 +47,7 @@ void Driver_Row(Grid& grid, int row) {
 void DriverPage_Fill(DriverPage& page) {
     Recordset_Open(Query_Drivers(SelectedMotorModel), DriverRecordset);  // a failure shows as no drivers
     Comment_Judge_Set();
-    std::copy_n(Patarn.begin(), kPatarnRows + 1, PatarnTrial.begin());
+    Patarn_CopyRows(Patarn, PatarnTrial);
     if (DriverRecordset.RecordCount() > 0) DriverRecordset.MoveFirst();
     page.vsfDrvList.Clear();
     Driver_Header(page.vsfDrvList);

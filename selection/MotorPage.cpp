@@ -5,6 +5,7 @@
 #include "base/MsgBox.h"
 #include "base/Numeric.h"
 #include "calc/mdlCulcurate.h"
+#include "core/PatarnRows.h"
 #include "core/Tables.h"
 #include "selection/DriverPage.h"
 #include "selection/MotorJudge.h"
@@ -93,7 +94,7 @@ void MotorPage_MoveToRow(MotorPage& page, int row) {
 
 bool MotorPage_Judge(MotorPage& page) {
     if (page.lstSIndex < 0 || page.lstMIndex < 0) return false;
-    std::copy_n(Patarn.begin(), kPatarnRows + 1, PatarnTrial.begin());
+    Patarn_CopyRows(Patarn, PatarnTrial);
     if (MotorRecordset.RecordCount() > 0) MotorRecordset.MoveFirst();
     if (PatternRowCount == 0) {
         Mark_NoPattern(page.vsfData);

@@ -10,7 +10,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include "base/Cp1252.h"
+#include "common/ui/Cp1252Text.h"
 #include "common/ui/SelectionLook.h"
 #include "core/Catalogue.h"
 #include "core/Tables.h"
@@ -68,7 +68,7 @@ void ChainStrip::Disp_Strip(int first) {
         const int i = first + s;
         const int16_t type = (i >= 0 && i < kElementSlots) ? Element[i].ElementType : kTypeEmpty;
         imgElement[s]->setPixmap(Picture_Type(type, kSlotPicture));
-        lblElement[s]->setText(type == kTypeEmpty ? QString() : QString::fromStdString(Cp1252_ToUtf8(Type_Label(type))));
+        lblElement[s]->setText(type == kTypeEmpty ? QString() : Cp1252_ToQString(Type_Label(type)));
     }
     if (ElementCount <= 1) ClearLooks();
 }

@@ -4,13 +4,11 @@
 #include <numeric>
 #include <vector>
 
-#include "base/Cp1252.h"
 #include "common/ui/ColumnFit.h"
+#include "common/ui/Cp1252Text.h"
 #include "pattern/GridText.h"
 
 namespace {
-
-QString Text(const std::string& cp1252) { return QString::fromStdString(Cp1252_ToUtf8(cp1252)); }
 
 }  // namespace
 
@@ -47,7 +45,7 @@ QTableWidgetItem* ResultGrid::Cell(int row, int col) {
 void ResultGrid::Clear() {
     const auto rows = Result_Texts(0);
     for (int r = 0; r < 7; ++r) {
-        Cell(r, 0)->setText(Text(rows[r].label));
+        Cell(r, 0)->setText(Cp1252_ToQString(rows[r].label));
         for (int c = 2; c < 5; ++c) Cell(r, c)->setText({});
         Cell(r, 4)->setForeground(palette().color(QPalette::WindowText));
     }
@@ -56,17 +54,17 @@ void ResultGrid::Clear() {
 
 void ResultGrid::Disp_Units() {
     const auto rows = Result_Texts(0);
-    for (int r = 0; r < 7; ++r) Cell(r, 1)->setText(Text(rows[r].unit));
+    for (int r = 0; r < 7; ++r) Cell(r, 1)->setText(Cp1252_ToQString(rows[r].unit));
 }
 
 void ResultGrid::Disp_Result(int16_t motorSelected) {
     setUpdatesEnabled(false);
     const auto rows = Result_Texts(motorSelected);
     for (int r = 0; r < 7; ++r) {
-        Cell(r, 2)->setText(Text(rows[r].calculated));
+        Cell(r, 2)->setText(Cp1252_ToQString(rows[r].calculated));
         if (motorSelected != 1) continue;
-        Cell(r, 3)->setText(Text(rows[r].rating));
-        Cell(r, 4)->setText(Text(rows[r].ratio));
+        Cell(r, 3)->setText(Cp1252_ToQString(rows[r].rating));
+        Cell(r, 4)->setText(Cp1252_ToQString(rows[r].ratio));
         switch (rows[r].ratioColour) {
             case CellColour::Red: Cell(r, 4)->setForeground(QColor(255, 0, 0)); break;
             case CellColour::Orange: Cell(r, 4)->setForeground(QColor(255, 128, 0)); break;

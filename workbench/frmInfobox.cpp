@@ -12,9 +12,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "base/Cp1252.h"
 #include "commands/ItemCommands.h"
 #include "common/ui/ColumnFit.h"
+#include "common/ui/Cp1252Text.h"
 #include "common/ui/EditorDetach.h"
 #include "common/ui/RunGuarded.h"
 #include "core/Catalogue.h"
@@ -28,8 +28,6 @@ namespace {
 
 constexpr int kWidths[3] = {1600, 1300, 1170};
 const QColor kGrey(128, 128, 128);  // 8421504
-
-QString Text(const std::string& cp1252) { return QString::fromStdString(Cp1252_ToUtf8(cp1252)); }
 
 bool KeyPasses(const QKeyEvent* key) {
     const QString t = key->text();
@@ -241,9 +239,9 @@ void frmInfobox::Infobox_Fill(int16_t element) {
     InternalEdit = 1;
     for (int r = 1; r <= kItemGridRows; ++r) {
         const ItemGridRow row = Item_GridRow(Element[element], r);
-        vsfElement->item(r - 1, 0)->setText(Text(row.name));
-        vsfElement->item(r - 1, 1)->setText(Text(row.unit));
-        vsfElement->item(r - 1, 2)->setText(Text(row.setting));
+        vsfElement->item(r - 1, 0)->setText(Cp1252_ToQString(row.name));
+        vsfElement->item(r - 1, 1)->setText(Cp1252_ToQString(row.unit));
+        vsfElement->item(r - 1, 2)->setText(Cp1252_ToQString(row.setting));
         if (row.grey) vsfElement->item(r - 1, 2)->setForeground(kGrey);
         else Restore_Row(r);
     }
@@ -256,7 +254,7 @@ void frmInfobox::Disp_ElementList() {
     const QSignalBlocker block(cboElement);
     cboElement->clear();
     for (int i = 1; i < ElementCount; ++i)
-        cboElement->addItem(QString("%1.").arg(i) + Text(std::string(Type_Label(Element[i].ElementType))));
+        cboElement->addItem(QString("%1.").arg(i) + Cp1252_ToQString(Type_Label(Element[i].ElementType)));
     if (SelectedElement >= 1 && SelectedElement < ElementCount) {
         cboElement->setCurrentIndex(SelectedElement - 1);
     } else {
@@ -332,11 +330,11 @@ void frmInfobox::Direct_Toggled(int16_t mode, const std::function<void()>& toggl
 }
 
 bool frmInfobox::AfterEdit(int gridRow, QString& text) {
-    std::string t = Utf8_ToCp1252(text.toStdString());
+    std::string t = QString_ToCp1252(text);
     bool stored = true;  // a failed calculation comes after the store
     Run_Guarded("Torvane", [&] { stored = Item_Edit(SelectedElement, gridRow, t, Check1->isChecked()); });
     if (!stored) return false;
-    text = Text(t);
+    text = Cp1252_ToQString(t);
     vsfElement->item(gridRow - 1, 2)->setText(text);
     vsfElement->setUpdatesEnabled(false);
     storing_ = true;

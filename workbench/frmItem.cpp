@@ -12,8 +12,8 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
-#include "base/Cp1252.h"
 #include "commands/ChainCommands.h"
+#include "common/ui/Cp1252Text.h"
 #include "common/ui/RunGuarded.h"
 #include "core/Catalogue.h"
 #include "core/Palette.h"
@@ -89,7 +89,7 @@ void frmItem::TabStrip1_Click(int tab) {
         const int16_t code = Palette_Type(tab, c);
         const std::string_view tag = Type_Label(code);
         picElement[c]->setPixmap(tag.empty() ? QPixmap() : Picture_Type(code, kCellPicture));
-        txtElement[c]->setText(QString::fromStdString(Cp1252_ToUtf8(tag)));
+        txtElement[c]->setText(Cp1252_ToQString(tag));
         txtElement[c]->setAutoFillBackground(!tag.empty());  // an empty cell shows no caption bar
     }
     ItemTab = static_cast<int16_t>(tab);

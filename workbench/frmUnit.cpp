@@ -9,7 +9,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "base/Cp1252.h"
+#include "common/ui/Cp1252Text.h"
 #include "common/ui/QtSettingsStore.h"
 
 frmUnit::frmUnit(std::function<void()> applied, QWidget* parent) : QDialog(parent), applied_(std::move(applied)) {
@@ -21,7 +21,7 @@ frmUnit::frmUnit(std::function<void()> applied, QWidget* parent) : QDialog(paren
         auto* column = new QVBoxLayout(frame);
         options[k] = new QButtonGroup(this);
         for (int i = 0; i < Unit_Count(k); ++i) {
-            auto* option = new QRadioButton(QString::fromStdString(Cp1252_ToUtf8(UnitTable[k].Names[i])), frame);
+            auto* option = new QRadioButton(Cp1252_ToQString(UnitTable[k].Names[i]), frame);
             options[k]->addButton(option, i);
             column->addWidget(option);
         }

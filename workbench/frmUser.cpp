@@ -7,9 +7,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "base/Cp1252.h"
 #include "base/MsgBox.h"
 #include "base/RuntimeError.h"
+#include "common/ui/Cp1252Text.h"
 #include "common/ui/RunGuarded.h"
 
 namespace {
@@ -33,7 +33,7 @@ frmUser::frmUser(QWidget* parent) : QDialog(parent) {
         MsgBox(e.what(), "Administrator Information", MsgIcon::Exclamation);
     }
     for (int i = 0; i < kAdminLines; ++i) {
-        boxes[i] = new QLineEdit(QString::fromStdString(Cp1252_ToUtf8(texts[i])), this);
+        boxes[i] = new QLineEdit(Cp1252_ToQString(texts[i]), this);
         boxes[i]->setObjectName(kNames[i]);
         boxes[i]->setMinimumWidth(320);
         boxes[i]->installEventFilter(this);
@@ -71,7 +71,7 @@ bool frmUser::eventFilter(QObject* watched, QEvent* event) {
 
 void frmUser::cmdOK_Click() {
     AdminTexts texts;
-    for (int i = 0; i < kAdminLines; ++i) texts[i] = Utf8_ToCp1252(boxes[i]->text().toStdString());
+    for (int i = 0; i < kAdminLines; ++i) texts[i] = QString_ToCp1252(boxes[i]->text());
     if (!Run_Guarded("Administrator Information", [&texts] { MtrUser_Write(texts); })) return;
     accept();
 }

@@ -6,8 +6,8 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 
-#include "base/Cp1252.h"
 #include "common/ui/ColumnFit.h"
+#include "common/ui/Cp1252Text.h"
 #include "core/Tables.h"
 #include "pattern/GridText.h"
 #include "pattern/PatarnCell.h"
@@ -17,8 +17,6 @@ namespace {
 constexpr const char* kTitles[7] = {"", "Time", "Interval", "Rotational speed", "Load speed", "Position",
                                     "Required torque"};
 constexpr int kWidths[7] = {300, 800, 800, 1400, 880, 880, 1450};
-
-QString Text(const std::string& cp1252) { return QString::fromStdString(Cp1252_ToUtf8(cp1252)); }
 
 }  // namespace
 
@@ -96,14 +94,14 @@ PatarnGrid::PatarnGrid(QWidget* parent) : QTableWidget(kPatarnRows, 7, parent) {
 void PatarnGrid::Disp_Headers() {
     const auto units = Patarn_HeaderTexts(LoadMotion);
     QStringList labels;
-    for (int c = 0; c < 7; ++c) labels << QString(kTitles[c]) + "\n" + Text(units[c]);
+    for (int c = 0; c < 7; ++c) labels << QString(kTitles[c]) + "\n" + Cp1252_ToQString(units[c]);
     setHorizontalHeaderLabels(labels);
 }
 
 void PatarnGrid::Disp_Patarn() {
     const PatarnTexts texts = Patarn_CellTexts(Patarn, LoadMotion);
     for (int r = 1; r <= kPatarnRows; ++r)
-        for (int c = 0; c < 7; ++c) item(r - 1, c)->setText(Text(texts[r][c]));
+        for (int c = 0; c < 7; ++c) item(r - 1, c)->setText(Cp1252_ToQString(texts[r][c]));
 }
 
 int PatarnGrid::GridRow() const { return currentRow() + 2; }

@@ -11,11 +11,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "base/Cp1252.h"
+#include "common/ui/Cp1252Text.h"
 
 namespace {
-
-QString Text(const std::string& cp1252) { return QString::fromStdString(Cp1252_ToUtf8(cp1252)); }
 
 QLineEdit* Field(QWidget* parent, const char* name) {
     auto* edit = new QLineEdit(parent);
@@ -104,9 +102,9 @@ void frmPatarn::Form_Load() {
 
 void frmPatarn::Form_Activate() {
     Trapezoid_Activate(form_);
-    for (QLabel* l : lblTime) l->setText(Text(form_.lblTime));
-    lblLength->setText(Text(form_.lblLength));
-    lblRapid->setText(Text(form_.lblRapid));
+    for (QLabel* l : lblTime) l->setText(Cp1252_ToQString(form_.lblTime));
+    lblLength->setText(Cp1252_ToQString(form_.lblLength));
+    lblRapid->setText(Cp1252_ToQString(form_.lblRapid));
 }
 
 void frmPatarn::Pull() {
@@ -121,7 +119,7 @@ void frmPatarn::Push() {
     mebMoveDistance->setText(QString::fromStdString(form_.mebMoveDistance));
     mebAccelTime->setText(QString::fromStdString(form_.mebAccelTime));
     mebAccel->setText(QString::fromStdString(form_.mebAccel));
-    lblMax->setText(Text(form_.lblMax));
+    lblMax->setText(Cp1252_ToQString(form_.lblMax));
 }
 
 void frmPatarn::Option_Click(bool accelTime) {
