@@ -38,6 +38,7 @@ public:
     void Disp_ElementList();
     void Disp_Loaded();
     void Disp_Headers();
+    void Disp_PatternAndResults();
 
     // Public operations of the form, called also from other windows.
     void imgElement_Click(int index);
