@@ -1,3 +1,4 @@
+// A part of calc/mdlCulcurate.h.
 // The master recalculation: the whole document brought up to date, in a
 // fixed order, with no cache.
 #include "calc/mdlCulcurate.h"

@@ -1,3 +1,4 @@
+// A part of calc/mdlCulcurate.h.
 // The load inertia at the motor shaft and the motion ratio of the chain.
 #include "calc/Cart.h"
 #include "calc/Formula.h"

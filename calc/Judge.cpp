@@ -1,3 +1,4 @@
+// A part of calc/mdlCulcurate.h.
 // The verdicts of the sizing values against the chosen motor and driver.
 #include <array>
 

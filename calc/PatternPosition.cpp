@@ -1,3 +1,4 @@
+// A part of calc/mdlCulcurate.h.
 // The travel of the load at the end of every row.
 #include "calc/mdlCulcurate.h"
 #include "core/PatarnRows.h"

@@ -1,3 +1,4 @@
+// A part of calc/mdlCulcurate.h.
 // Torque and regeneration of every interval of a pattern table.
 #include <cmath>
 

@@ -1,3 +1,4 @@
+// A part of calc/mdlCulcurate.h.
 // Reduction: each component type's physics turned into the one uniform
 // calculation record that the chain calculation knows.
 #include <cmath>

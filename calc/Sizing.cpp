@@ -1,3 +1,4 @@
+// A part of calc/mdlCulcurate.h.
 // The sizing values of a pattern table, over its complete rows.
 #include <algorithm>
 #include <cmath>

@@ -1,3 +1,4 @@
+// A part of calc/mdlCulcurate.h.
 // The torque that the motor gives over one interval of straight-line speed
 // change, and the energy that flows back into the drive.
 #include <cmath>

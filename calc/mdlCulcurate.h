@@ -21,7 +21,7 @@ inline double TorqueAcc = 0;   // acceleration, N.m
 inline double TorqueEx = 0;    // constant external load, N.m
 inline double TorqueFric = 0;  // friction, N.m
 
-// --- reduction ---------------------------------------------------------------
+// --- reduction (calc/Reduce.cpp, with calc/Cart.h for the carts) ---------------
 
 // Fills Param(index) from the element by its type's formulas, writes the
 // computed masses into rows 11 and 12 and the element's own inertia into
@@ -32,7 +32,7 @@ int16_t Element_Reduce(int16_t index, ElementRecord& element);
 // A copy of Param(index); 1 when index is not in 1 to 20.
 int16_t Param_Get(int16_t index, ParamRecord& record);
 
-// --- load inertia ----------------------------------------------------------------
+// --- load inertia (calc/Inertia.cpp) ----------------------------------------------
 
 // Mode 1: the chain up to Param(n) at the motor shaft. Mode 0: element n
 // alone at its own input. 1 on a bad mode or n outside 1 to 20.
@@ -47,7 +47,7 @@ int16_t Special_Inertia(const ElementRecord& element, double mass, double& JL, d
 // special mechanism. Unless flag is 2, LoadInertiaTotal and TotalRatio follow.
 double Load_Inertia(const ElementTable& elements, int16_t flag, double& mass);
 
-// --- interval torque --------------------------------------------------------------
+// --- interval torque (calc/Torque.cpp; Pattern_Torques in calc/PatternTorques.cpp) --
 
 // Torque T (N.m) and regenerated energy R (J) of an interval of dt seconds
 // from v1 to v2 r/min through the first n components, for a motor of inertia
@@ -77,13 +77,17 @@ void Pattern_Torques(PatarnTable& rows, int16_t flag, double& Jm, double& mass);
 // The parts of the last interval computed.
 void Torque_Parts(double& acc, double& ex, double& fric);
 
-// --- sizing values -------------------------------------------------------------------
+// --- the master recalculation (calc/Culcurate.cpp) ----------------------------------
 
 // Runs the whole calculation of the document, from the elements to the judgement.
 void Culcurate_All();
 
+// --- positions (calc/PatternPosition.cpp) ---------------------------------------------
+
 // Position of every complete row: the signed travel of the load.
 void Pattern_Position(PatarnTable& table);
+
+// --- sizing values (calc/Sizing.cpp) ----------------------------------------------------
 
 // The sizing values of a table's complete rows: 0 without rows, -9999 when a
 // row holds the mark or the value cannot be computed.
@@ -96,6 +100,8 @@ double Stopping_Torque(const PatarnTable& table);
 
 // Calculated per rating: 0 without a rating, -9999 for a marked value.
 double Safe_Rate(double calculated, double rating);
+
+// --- judgement (calc/Judge.cpp) -------------------------------------------------------
 
 // Rates and verdicts (0 no rating, 1 OK, 2 FAIR, 3 NG) of the seven values.
 void Judge_Results(ResultTable& results);

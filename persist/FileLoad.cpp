@@ -1,3 +1,4 @@
+// A part of persist/mdlFile.h.
 #include "base/MsgBox.h"
 #include "base/ReadFile.h"
 #include "base/RuntimeError.h"

@@ -1,3 +1,4 @@
+// A part of persist/mdlFile.h.
 #include <filesystem>
 
 #include "base/MsgBox.h"

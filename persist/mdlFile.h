@@ -15,6 +15,8 @@ struct FileLoadHooks {
     std::function<void()> showInfobox;                       // shows the component settings
 };
 
+// --- writing (persist/FileSave.cpp) -------------------------------------------------
+
 // "Ver." and the program's major, minor and revision numbers.
 std::string File_VersionText();
 
@@ -31,6 +33,8 @@ inline std::string UnreadFile;
 // Writing over UnreadFile first copies it to path + ".bak", notes that in
 // History.log, and fails when the copy cannot be made.
 bool File_Save(const std::string& path);
+
+// --- opening (persist/FileLoad.cpp) -------------------------------------------------
 
 // Makes the file at path the document. When the file cannot be read whole,
 // "File read failed." is shown, the fields read so far stay and the loading

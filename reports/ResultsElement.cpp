@@ -1,3 +1,4 @@
+// A part of reports/mdlFileOutput.h.
 #include <string>
 
 #include "base/NumberFormat.h"

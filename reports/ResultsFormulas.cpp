@@ -1,3 +1,4 @@
+// A part of reports/mdlFileOutput.h.
 #include <array>
 #include <string_view>
 

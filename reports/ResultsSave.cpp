@@ -1,3 +1,4 @@
+// A part of reports/mdlFileOutput.h.
 #include "core/Tables.h"
 #include "reports/ResultsLine.h"
 #include "reports/mdlFileOutput.h"

@@ -8,17 +8,25 @@
 
 #include <string>
 
+// --- the file whole (reports/ResultsSave.cpp) -------------------------------------
+
 // Opens the file (created or emptied), writes all sections in order, closes it.
 void Results_Save(const std::string& fileName);
 
+// --- the components (reports/ResultsElement.cpp) ------------------------------------
+
 // Every component: its number and label, its parameter rows, its block.
 void Results_Element();
+
+// --- the formulas (reports/ResultsFormulas.cpp) -------------------------------------
 
 // The inertia formula as text and the load inertia J of the components.
 void Results_Inertia();
 
 // The torque and regeneration formulas, the same in every file.
 void Results_Torque();
+
+// --- the intervals (reports/ResultsInterval.cpp) -------------------------------------
 
 // One row per counted interval, with freshly computed torque parts.
 void Results_Interval();
