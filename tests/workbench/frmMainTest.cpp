@@ -1,3 +1,4 @@
+// The main window (frmMain) driven as a user drives it: the start, the strip, the pattern grid, the menus and the file commands.
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
@@ -18,7 +19,7 @@
 #include "core/PatarnRows.h"
 #include "pattern/ui/PatarnGrid.h"
 #include "pattern/ui/PatternGraph.h"
-#include "tests/gui/WorkbenchFixture.h"
+#include "tests/support/WorkbenchFixture.h"
 #include "tests/support/TestState.h"
 #include "workbench/ChainStrip.h"
 #include "workbench/FileDialog.h"
@@ -325,4 +326,25 @@ TEST_F(WorkbenchTest, InsertOpensABlankRowAndLeavesTheDocumentUnchanged) {
     EXPECT_EQ(Cell(w, 2, 3), "");
     EXPECT_EQ(Cell(w, 3, 3), "3000.0");
     EXPECT_EQ(DirtyFlag, 0);
+}
+
+class frmMainTest : public StateTest {};
+
+
+TEST_F(frmMainTest, NewDocumentCaption) {
+    frmMain w;
+    EXPECT_EQ(w.windowTitle(), "Torvane-[Create application]");
+}
+
+TEST_F(frmMainTest, ActivationBuildsThePickedTemplateAndNamesIt) {
+    frmMain w;
+    MecaTemplateNo = 1;
+    MecaResult = 1;
+    w.show();
+    w.activateWindow();
+    QApplication::setActiveWindow(&w);
+    QApplication::processEvents();
+    EXPECT_EQ(w.windowTitle(), "Torvane-[Horizontal ballscrew]");
+    EXPECT_EQ(ElementCount, 4);
+    EXPECT_EQ(MecaResult, 0);
 }

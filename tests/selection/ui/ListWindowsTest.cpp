@@ -13,7 +13,7 @@
 #include "selection/ui/GridView.h"
 #include "selection/ui/frmList1.h"
 #include "selection/ui/frmList2.h"
-#include "tests/gui/WorkbenchFixture.h"
+#include "tests/support/WorkbenchFixture.h"
 #include "tests/selection/CatalogueFixture.h"
 #include "tests/selection/SizedDocument.h"
 #include "workbench/FileDialog.h"

@@ -1,3 +1,4 @@
+// The unit dialog (frmUnit), the administrator dialog (frmUser) and the About box driven as a user drives them.
 #include <QAbstractButton>
 #include <QAction>
 #include <QButtonGroup>
@@ -10,7 +11,7 @@
 #include "core/Tables.h"
 #include "core/UnitFile.h"
 #include "persist/mdlFile.h"
-#include "tests/gui/WorkbenchFixture.h"
+#include "tests/support/WorkbenchFixture.h"
 #include "workbench/frmAbout.h"
 #include "workbench/frmUnit.h"
 #include "workbench/frmUser.h"

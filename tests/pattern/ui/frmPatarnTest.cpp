@@ -1,3 +1,4 @@
+// The trapezoid builder (frmPatarn) driven as a user drives it: its fields, its checks and the rows it writes.
 #include <QAbstractButton>
 #include <QAction>
 #include <QButtonGroup>
@@ -10,7 +11,7 @@
 
 #include "core/Tables.h"
 #include "pattern/ui/frmPatarn.h"
-#include "tests/gui/WorkbenchFixture.h"
+#include "tests/support/WorkbenchFixture.h"
 #include "workbench/frmUnit.h"
 
 namespace {

@@ -10,7 +10,7 @@
 
 #include "selection/mdlDataBase.h"
 #include "selection/ui/frmList1.h"
-#include "tests/gui/WorkbenchFixture.h"
+#include "tests/support/WorkbenchFixture.h"
 #include "tests/selection/CatalogueFixture.h"
 #include "tests/selection/SizedDocument.h"
 #include "workbench/frmInfobox.h"

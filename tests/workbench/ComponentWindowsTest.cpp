@@ -20,7 +20,7 @@
 
 #include "core/Catalogue.h"
 #include "core/Tables.h"
-#include "tests/gui/WorkbenchFixture.h"
+#include "tests/support/WorkbenchFixture.h"
 #include "units/UnitTable.h"
 #include "workbench/ChainStrip.h"
 #include "workbench/MsgBoxDialog.h"

@@ -1,3 +1,4 @@
+// One running copy: a second start of the window program ends silently and leaves the first running.
 #include <QDir>
 #include <QFile>
 #include <QProcess>
