@@ -52,9 +52,7 @@ ChainStrip::ChainStrip(QWidget* parent) : QWidget(parent) {
     HScroll1->setObjectName("HScroll1");
     HScroll1->setRange(0, 12);
     HScroll1->setPageStep(kStripSlots);
-    connect(HScroll1, &QScrollBar::valueChanged, this, [this](int v) {
-        if (onScroll) onScroll(v);
-    });
+    connect(HScroll1, &QScrollBar::valueChanged, this, &ChainStrip::scrolled);
     auto* main = new QVBoxLayout(this);
     main->setContentsMargins(0, 0, 0, 0);
     main->addLayout(grid);
@@ -94,8 +92,8 @@ bool ChainStrip::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseButtonPress: {
             auto* e = static_cast<QMouseEvent*>(event);
-            if (e->button() == Qt::LeftButton && onClick) onClick(slot);
-            if (e->button() == Qt::RightButton && onRightClick) onRightClick(slot, e->globalPosition().toPoint());
+            if (e->button() == Qt::LeftButton) emit slotClicked(slot);
+            if (e->button() == Qt::RightButton) emit slotRightClicked(slot, e->globalPosition().toPoint());
             return true;
         }
         case QEvent::DragEnter: {
@@ -106,7 +104,7 @@ bool ChainStrip::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::Drop: {
             auto* e = static_cast<QDropEvent*>(event);
             const QByteArray data = e->mimeData()->data(kTypeMime);
-            if (!data.isEmpty() && onDrop) onDrop(slot, static_cast<int16_t>(data.toInt()));
+            if (!data.isEmpty()) emit typeDropped(slot, data.toInt());
             e->acceptProposedAction();
             return true;
         }

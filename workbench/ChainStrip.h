@@ -5,7 +5,6 @@
 
 #include <QWidget>
 #include <array>
-#include <functional>
 
 #include "commands/StripCommands.h"
 
@@ -31,10 +30,11 @@ public:
     void SetSelectedLook(int slot, bool selected);
     void ClearLooks();
 
-    std::function<void(int slot)> onClick;                 // imgElement_Click
-    std::function<void(int slot, QPoint global)> onRightClick;
-    std::function<void(int slot, int16_t type)> onDrop;    // a type dropped on a slot
-    std::function<void(int value)> onScroll;               // HScroll1 changed
+signals:
+    void slotClicked(int slot);                        // imgElement_Click
+    void slotRightClicked(int slot, QPoint global);
+    void typeDropped(int slot, int type);              // a component type dropped on a slot
+    void scrolled(int value);                          // HScroll1 changed
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

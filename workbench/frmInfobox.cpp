@@ -131,8 +131,7 @@ private:
     frmInfobox* box_;
 };
 
-frmInfobox::frmInfobox(std::function<void()> refresh, std::function<void()> selected, QWidget* parent)
-    : QWidget(parent, Qt::Tool), refresh_(std::move(refresh)), selected_(std::move(selected)) {
+frmInfobox::frmInfobox(QWidget* parent) : QWidget(parent, Qt::Tool) {
     setObjectName("frmInfobox");
     setWindowTitle("Component Settings");
 
@@ -285,7 +284,7 @@ void frmInfobox::cboElement_click() {
     const int index = cboElement->currentIndex();
     if (index < 0) return;
     Run_Guarded("Torvane", [index] { Item_Select(static_cast<int16_t>(index + 1)); });
-    if (selected_) selected_();
+    emit elementPicked();
     const ElementRecord& e = Element[SelectedElement];
     Check_Set(e.ElementType, e.InputMode);
     Infobox_Fill(SelectedElement);
@@ -322,7 +321,7 @@ void frmInfobox::Direct_Toggled(int16_t mode, const std::function<void()>& toggl
     Run_Guarded("Torvane", toggle);
     if (wasDirect && Element[SelectedElement].InputMode != mode)
         for (int r = 1; r <= kItemGridRows - 1; ++r) Restore_Row(r);
-    if (refresh_) refresh_();
+    emit documentChanged();
     const ElementRecord& e = Element[SelectedElement];
     Check_Set(e.ElementType, e.InputMode);
     vsfElement->setCurrentCell(row - 1, 2);
@@ -338,8 +337,7 @@ bool frmInfobox::AfterEdit(int gridRow, QString& text) {
     vsfElement->item(gridRow - 1, 2)->setText(text);
     vsfElement->setUpdatesEnabled(false);
     storing_ = true;
-    if (refresh_) refresh_();
-    else Disp_Selected();
+    emit documentChanged();
     storing_ = false;
     vsfElement->setUpdatesEnabled(true);
     return true;

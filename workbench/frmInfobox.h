@@ -17,7 +17,7 @@ class frmInfobox : public QWidget {
 public:
     // refresh: the main window's Disp_Refresh; selected: the element became
     // the selected one, so the strip shows and highlights it.
-    frmInfobox(std::function<void()> refresh, std::function<void()> selected, QWidget* parent = nullptr);
+    explicit frmInfobox(QWidget* parent = nullptr);
     ~frmInfobox() override;
 
     QComboBox* cboElement = nullptr;
@@ -52,6 +52,12 @@ public:
     void Check1_Click();
     void Check2_Click();
 
+signals:
+    // The document changed: the main window repaints from the tables.
+    void documentChanged();
+    // Another element was picked from the list: the strip shows it.
+    void elementPicked();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -63,7 +69,5 @@ private:
     void Direct_Toggled(int16_t mode, const std::function<void()>& toggle, int row);
     bool AfterEdit(int gridRow, QString& text);
 
-    std::function<void()> refresh_;
-    std::function<void()> selected_;
     bool storing_ = false;  // an edit is being stored
 };

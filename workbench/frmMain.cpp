@@ -42,7 +42,9 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
     BuildMenus();
     BuildToolBar();
     setCentralWidget(BuildCentre());
-    infobox_ = new frmInfobox([this] { Disp_Refresh(); }, [this] { Strip_ShowSelected(); }, this);
+    infobox_ = new frmInfobox(this);
+    connect(infobox_, &frmInfobox::documentChanged, this, &frmMain::Disp_Refresh);
+    connect(infobox_, &frmInfobox::elementPicked, this, &frmMain::Strip_ShowSelected);
     ItemHooks seams;
     seams.refresh = [this] { Disp_Refresh(); };
     seams.deleteSelected = [this] { RunCommand([this] { mnuDelete1_Click(); }); };

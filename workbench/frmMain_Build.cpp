@@ -41,10 +41,12 @@ QWidget* frmMain::BuildCentre() {
     Picture1->installEventFilter(this);
 
     strip = new ChainStrip(centre);
-    strip->onClick = [this](int s) { RunCommand([this, s] { imgElement_Click(s); }); };
-    strip->onRightClick = [this](int s, QPoint g) { imgElement_RightClick(s, g); };
-    strip->onDrop = [this](int s, int16_t type) { RunCommand([this, s, type] { imgElement_DragDrop(s, type); }); };
-    strip->onScroll = [this](int v) { HScroll1_Change(v); };
+    connect(strip, &ChainStrip::slotClicked, this, [this](int s) { RunCommand([this, s] { imgElement_Click(s); }); });
+    connect(strip, &ChainStrip::slotRightClicked, this, &frmMain::imgElement_RightClick);
+    connect(strip, &ChainStrip::typeDropped, this, [this](int s, int type) {
+        RunCommand([this, s, type] { imgElement_DragDrop(s, static_cast<int16_t>(type)); });
+    });
+    connect(strip, &ChainStrip::scrolled, this, &frmMain::HScroll1_Change);
 
     auto* motorBox = new QGridLayout;
     motorBox->addWidget(Caption("Motor", centre), 0, 0);
