@@ -28,7 +28,7 @@ constexpr QSize kCellPicture(72, 72);
 
 }  // namespace
 
-frmItem::frmItem(ItemHooks seams, QWidget* parent) : QWidget(parent, Qt::Tool), seams_(std::move(seams)) {
+frmItem::frmItem(QWidget* parent) : QWidget(parent, Qt::Tool) {
     setObjectName("frmItem");
     setWindowTitle("Component Selection");
 
@@ -119,8 +119,8 @@ void frmItem::picElement_DblClick(int index) {
     Run_Guarded("Torvane", [&] { appended = Chain_Append(type); });
     if (!appended) return;
     picElement_GotFocus(index);
-    if (seams_.refresh) seams_.refresh();
-    if (ElementCount > 8 && seams_.selectInList) seams_.selectInList(ElementCount - 2);
+    emit documentChanged();
+    if (ElementCount > 8) emit selectInList(ElementCount - 2);
     activateWindow();
     picElement[index]->setFocus();
 }
@@ -152,7 +152,7 @@ void frmItem::picElement_KeyDown(int index, int key) {
         default: break;
     }
     if (code == 13) picElement_DblClick(index);
-    if (code == 46 && seams_.deleteSelected) seams_.deleteSelected();
+    if (code == 46) emit deleteSelected();
     picElement[Palette_NextCell(index, code)]->setFocus();
 }
 
@@ -171,7 +171,7 @@ bool frmItem::eventFilter(QObject* watched, QEvent* event) {
                 return true;
             }
             if (key == Qt::Key_Delete) {
-                if (seams_.deleteSelected) seams_.deleteSelected();
+                emit deleteSelected();
                 return true;
             }
         }

@@ -13,17 +13,10 @@ class QLabel;
 class QMimeData;
 class QTabBar;
 
-// What the palette asks of the main window.
-struct ItemHooks {
-    std::function<void()> refresh;                // Disp_Refresh
-    std::function<void()> deleteSelected;         // mnuDelete1_Click
-    std::function<void(int index)> selectInList;  // the element box of the settings, list position
-};
-
 class frmItem : public QWidget {
     Q_OBJECT
 public:
-    explicit frmItem(ItemHooks seams, QWidget* parent = nullptr);
+    explicit frmItem(QWidget* parent = nullptr);
 
     QTabBar* TabStrip1 = nullptr;
     std::array<QLabel*, 10> picElement{};
@@ -44,6 +37,13 @@ public:
     // Stores the position, unless minimised, and hides the window.
     void Unload();
 
+signals:
+    // What the palette asks of the main window: repaint from the tables, delete
+    // the selected component, pick list position index in the settings.
+    void documentChanged();
+    void deleteSelected();
+    void selectInList(int index);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -57,6 +57,5 @@ private:
     void Form_Activate();
     int IndexOf(QObject* watched) const;
 
-    ItemHooks seams_;
     bool firstActivation_ = true;
 };

@@ -45,20 +45,20 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
     infobox_ = new frmInfobox(this);
     connect(infobox_, &frmInfobox::documentChanged, this, &frmMain::Disp_Refresh);
     connect(infobox_, &frmInfobox::elementPicked, this, &frmMain::Strip_ShowSelected);
-    ItemHooks seams;
-    seams.refresh = [this] { Disp_Refresh(); };
-    seams.deleteSelected = [this] { RunCommand([this] { mnuDelete1_Click(); }); };
-    seams.selectInList = [this](int index) { infobox_->cboElement_Select(index); };
-    item_ = new frmItem(std::move(seams), this);
-    meca_ = new frmMeca(
-        [this] {
-            Disp_Reset();
-            infobox_->show();
-            if (MecaResult == 2) item_->show();
-        },
-        this);
-    patarn_ = new frmPatarn([this] { return vsfPatarn->GridRow(); }, [this] { Disp_Refresh(); }, this);
-    unit_ = new frmUnit([this] { Disp_Refresh(); }, this);
+    item_ = new frmItem(this);
+    connect(item_, &frmItem::documentChanged, this, &frmMain::Disp_Refresh);
+    connect(item_, &frmItem::deleteSelected, this, [this] { RunCommand([this] { mnuDelete1_Click(); }); });
+    connect(item_, &frmItem::selectInList, infobox_, &frmInfobox::cboElement_Select);
+    meca_ = new frmMeca(this);
+    connect(meca_, &frmMeca::confirmed, this, [this] {
+        Disp_Reset();
+        infobox_->show();
+        if (MecaResult == 2) item_->show();
+    });
+    patarn_ = new frmPatarn([this] { return vsfPatarn->GridRow(); }, this);
+    connect(patarn_, &frmPatarn::built, this, &frmMain::Disp_Refresh);
+    unit_ = new frmUnit(this);
+    connect(unit_, &frmUnit::applied, this, &frmMain::Disp_Refresh);
     resize(1180, 760);
     Window_Load(this, kMainWindowKeys);
     Disp_Reset();
@@ -230,7 +230,8 @@ void frmMain::mnuMortorSelect_Click() {
         return;
     }
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    list1_ = new frmList1([this] { Disp_Refresh(); }, this);
+    list1_ = new frmList1(this);
+    connect(list1_, &frmList1::decided, this, &frmMain::Disp_Refresh);
     list1_->show();
     list1_->WizardOpening = 1;
     QApplication::restoreOverrideCursor();

@@ -70,9 +70,9 @@ QWidget* frmMain::BuildCentre() {
     top->addWidget(Picture1);
 
     vsfPatarn = new PatarnGrid(centre);
-    vsfPatarn->onAfterEdit = [this](int r, int c) { vsfPatarn_AfterEdit(r, c); };
-    vsfPatarn->onDeleteKey = [this] { mnuDelete2_Click(); };
-    vsfPatarn->onContextMenu = [this](QPoint g) { mnuRight2->popup(g); };
+    connect(vsfPatarn, &PatarnGrid::afterEdit, this, &frmMain::vsfPatarn_AfterEdit);
+    connect(vsfPatarn, &PatarnGrid::deleteKey, this, &frmMain::mnuDelete2_Click);
+    connect(vsfPatarn, &PatarnGrid::contextMenu, this, [this](QPoint g) { mnuRight2->popup(g); });
     auto* left = new QVBoxLayout;
     left->addWidget(Caption("Operating Pattern", centre));
     left->addWidget(vsfPatarn, 1);

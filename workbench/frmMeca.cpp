@@ -21,8 +21,7 @@ constexpr QSize kPictureSize(160, 120);
 
 }  // namespace
 
-frmMeca::frmMeca(std::function<void()> confirmed, QWidget* parent)
-    : QDialog(parent), confirmed_(std::move(confirmed)) {
+frmMeca::frmMeca(QWidget* parent) : QDialog(parent) {
     setObjectName("frmMeca");
     setWindowTitle("Mechanical System Selection");
     setModal(true);
@@ -176,7 +175,7 @@ void frmMeca::cmdOK_Click() {
     if (!Meca_OK(hasPicture_[MecaTemplateNo])) return;
     hide();
     setResult(QDialog::Accepted);
-    if (confirmed_) confirmed_();
+    emit confirmed();
 }
 
 void frmMeca::CmdCancel_Click() {

@@ -13,7 +13,7 @@ class frmMeca : public QDialog {
     Q_OBJECT
 public:
     // confirmed runs after OK hid the window (the reset of the document).
-    explicit frmMeca(std::function<void()> confirmed, QWidget* parent = nullptr);
+    explicit frmMeca(QWidget* parent = nullptr);
 
     std::array<QFrame*, 12> picMachine{};
     std::array<QLabel*, 12> lblMachine{};
@@ -24,6 +24,10 @@ public:
 
     void cmdOK_Click();
     void CmdCancel_Click();
+
+signals:
+    // OK took an answer: the main window starts the new document.
+    void confirmed();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -37,7 +41,6 @@ private:
     void ShowShape2(bool visible);
     int IndexOf(QObject* watched) const;
 
-    std::function<void()> confirmed_;
     std::array<bool, 12> hasPicture_{};
     bool skipFocus_ = false;
 };

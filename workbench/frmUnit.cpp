@@ -12,7 +12,7 @@
 #include "common/ui/Cp1252Text.h"
 #include "common/ui/QtSettingsStore.h"
 
-frmUnit::frmUnit(std::function<void()> applied, QWidget* parent) : QDialog(parent), applied_(std::move(applied)) {
+frmUnit::frmUnit(QWidget* parent) : QDialog(parent) {
     setObjectName("frmUnit");
     setWindowTitle("Unit Selections");
     auto* frames = new QGridLayout;
@@ -83,6 +83,6 @@ void frmUnit::cmdReNew_Click() {
     UnitPicks picks{};
     for (int k = 0; k < kUnitCategories; ++k) picks[k] = static_cast<int16_t>(std::max(0, options[k]->checkedId()));
     Unit_Apply(picks);
-    if (applied_) applied_();
+    emit applied();
     cmdReNew->setEnabled(false);
 }

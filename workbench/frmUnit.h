@@ -17,7 +17,7 @@ class frmUnit : public QDialog {
     Q_OBJECT
 public:
     // applied runs after the picks were taken on (the main window's refresh).
-    explicit frmUnit(std::function<void()> applied, QWidget* parent = nullptr);
+    explicit frmUnit(QWidget* parent = nullptr);
 
     std::array<QButtonGroup*, kUnitCategories> options{};
     QPushButton* cmdStartSet = nullptr;
@@ -28,6 +28,10 @@ public:
     void cmdStartSet_Click();
     void cmdReNew_Click();
 
+signals:
+    // New unit picks are in force: the windows repaint.
+    void applied();
+
 protected:
     void showEvent(QShowEvent* event) override;
     // Every way out (OK, Cancel, the close box, Escape) stores the place.
@@ -37,5 +41,4 @@ private:
     void Form_Load();
     void Show_Picks(const UnitPicks& picks);
 
-    std::function<void()> applied_;
 };

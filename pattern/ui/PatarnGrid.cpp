@@ -48,7 +48,7 @@ public:
             return;
         }
         grid_->item(index.row(), col)->setText(QString::fromStdString(check.text));
-        if (grid_->onAfterEdit) grid_->onAfterEdit(gridRow, col);
+        emit grid_->afterEdit(gridRow, col);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -130,7 +130,7 @@ void PatarnGrid::EditCell(int gridRow, int col, const QString& text) {
 
 void PatarnGrid::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Delete && state() != QAbstractItemView::EditingState) {
-        if (onDeleteKey) onDeleteKey();
+        emit deleteKey();
         return;
     }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return;
@@ -146,5 +146,5 @@ void PatarnGrid::mousePressEvent(QMouseEvent* event) {
     }
     const QModelIndex index = indexAt(event->position().toPoint());
     if (index.isValid() && index.column() != 0) setCurrentCell(index.row(), index.column());
-    if (onContextMenu) onContextMenu(event->globalPosition().toPoint());
+    emit contextMenu(event->globalPosition().toPoint());
 }

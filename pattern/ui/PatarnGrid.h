@@ -28,9 +28,10 @@ public:
 
     int16_t EscapePending = 0;
 
-    std::function<void(int gridRow, int col)> onAfterEdit;     // vsfPatarn_AfterEdit
-    std::function<void()> onDeleteKey;                         // Delete on the grid
-    std::function<void(QPoint global)> onContextMenu;          // right button
+signals:
+    void afterEdit(int gridRow, int col);  // vsfPatarn_AfterEdit
+    void deleteKey();                      // Delete on the grid
+    void contextMenu(QPoint global);       // right button
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -25,8 +25,7 @@ QLineEdit* Field(QWidget* parent, const char* name) {
 
 }  // namespace
 
-frmPatarn::frmPatarn(std::function<int()> gridRow, std::function<void()> built, QWidget* parent)
-    : QDialog(parent), gridRow_(std::move(gridRow)), built_(std::move(built)) {
+frmPatarn::frmPatarn(std::function<int()> gridRow, QWidget* parent) : QDialog(parent), gridRow_(std::move(gridRow)) {
     setObjectName("frmPatarn");
     setWindowTitle(kTrapezoidTitle);
     setModal(false);
@@ -168,9 +167,9 @@ bool frmPatarn::eventFilter(QObject* watched, QEvent* event) {
 
 void frmPatarn::cmdOK_Click() {
     Pull();
-    const bool built = Trapezoid_OK(form_, gridRow_());
+    const bool written = Trapezoid_OK(form_, gridRow_());
     Push();
-    if (!built) return;
-    if (built_) built_();
+    if (!written) return;
+    emit built();
     close();
 }

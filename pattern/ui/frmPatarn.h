@@ -16,7 +16,8 @@ class frmPatarn : public QDialog {
     Q_OBJECT
 public:
     // gridRow gives the grid row the rows go in at; built runs after they did.
-    frmPatarn(std::function<int()> gridRow, std::function<void()> built, QWidget* parent = nullptr);
+    // gridRow answers the current row of the pattern grid when OK is pressed.
+    explicit frmPatarn(std::function<int()> gridRow, QWidget* parent = nullptr);
 
     QLineEdit* mebMoveTime = nullptr;
     QLineEdit* mebMoveDistance = nullptr;
@@ -32,6 +33,10 @@ public:
     QPushButton* CmdCancel = nullptr;
 
     void cmdOK_Click();
+
+signals:
+    // Rows were written into the pattern: the main window repaints.
+    void built();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -51,6 +56,5 @@ private:
 
     TrapezoidForm form_;
     std::function<int()> gridRow_;
-    std::function<void()> built_;
     bool checking_ = false;
 };

@@ -60,7 +60,7 @@ GridView::GridView(std::span<const GridColumn> columns, QWidget* parent)
     marks.setColor(QPalette::Highlight, QColor(204, 228, 247));
     setPalette(marks);  // Tab goes on to the next control, as in every row list
     connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int, int previous, int) {
-        if (row != previous && onRowChange) onRowChange(row + kFixedRows);
+        if (row != previous) emit rowChanged(row + kFixedRows);
     });
 }
 

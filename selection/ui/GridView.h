@@ -11,6 +11,7 @@
 #include "selection/Grid.h"
 
 class GridView : public QTableWidget {
+    Q_OBJECT
 public:
     GridView(std::span<const GridColumn> columns, QWidget* parent);
 
@@ -19,13 +20,15 @@ public:
     // The grid row of the current row; below 2 when there is none.
     int GridRow() const;
     void SetGridRow(int row);
-    // Runs with the new grid row whenever the current row changes.
-    std::function<void(int)> onRowChange;
 
     // The shown text of a cell by grid row and column (rows 0 and 1 are the headers).
     QString CellText(int row, int col) const;
     bool CellBold(int row, int col) const;
     QColor CellColor(int row, int col) const;
+
+signals:
+    // The new grid row, whenever the current row changes.
+    void rowChanged(int gridRow);
 
 private:
     std::span<const GridColumn> columns_;

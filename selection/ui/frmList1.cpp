@@ -34,8 +34,7 @@ QLabel* Buddy(const QString& caption, QWidget* buddy, QWidget* parent) {
 
 }  // namespace
 
-frmList1::frmList1(std::function<void()> decided, QWidget* parent)
-    : QWidget(parent, Qt::Window), decided_(std::move(decided)) {
+frmList1::frmList1(QWidget* parent) : QWidget(parent, Qt::Window) {
     setObjectName("frmList1");
     setWindowTitle(QString::fromUtf8(kTitleMotorSelection));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -86,10 +85,10 @@ frmList1::frmList1(std::function<void()> decided, QWidget* parent)
     connect(lstM, &QListWidget::itemSelectionChanged, this, [this] {
         if (lstM->currentRow() >= 0) lstM_Click(lstM->currentRow());
     });
-    vsfData->onRowChange = [this](int row) {
+    connect(vsfData, &GridView::rowChanged, this, [this](int row) {
         MotorPage_MoveToRow(page_, row);
         lblComment->setText(QString::fromStdString(page_.lblComment));
-    };
+    });
     connect(cmdJudge, &QPushButton::clicked, this, &frmList1::cmdJudge_Click);
     connect(cmdNext, &QPushButton::clicked, this, &frmList1::cmdNext_Click);
     connect(cmdReverce, &QPushButton::clicked, this, &frmList1::Wizard_Unload);
@@ -137,7 +136,10 @@ void frmList1::cmdNext_Click() {
     bool taken = false;
     Run_Guarded(kTitleMotorSelection, [&] { taken = MotorPage_TakeMotor(page_, chosen); });
     if (!taken) return;
-    if (!list2_) list2_ = new frmList2(this, decided_);
+    if (!list2_) {
+        list2_ = new frmList2(this);
+        connect(list2_, &frmList2::decided, this, &frmList1::decided);
+    }
     list2_->Motor_Take(chosen);
     list2_->move(pos());
     hide();

@@ -20,7 +20,7 @@ class frmList1 : public QWidget {
     Q_OBJECT
 public:
     // decided runs after "Finish" of the driver page stored motor and driver.
-    explicit frmList1(std::function<void()> decided, QWidget* parent = nullptr);
+    explicit frmList1(QWidget* parent = nullptr);
 
     QListWidget* lstS = nullptr;
     QListWidget* lstM = nullptr;
@@ -47,6 +47,10 @@ public:
     const MotorPage& Page() const { return page_; }
     void Form_Activate();
 
+signals:
+    // "Finish" on the driver page committed the selection: the main window repaints.
+    void decided();
+
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -57,6 +61,5 @@ private:
 
     MotorPage page_;
     frmList2* list2_ = nullptr;
-    std::function<void()> decided_;
     bool unloading_ = false;
 };

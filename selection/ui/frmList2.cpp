@@ -22,8 +22,7 @@ const std::string kTitle = "Driver Selection";
 
 }  // namespace
 
-frmList2::frmList2(frmList1* list1, std::function<void()> decided)
-    : QWidget(list1->parentWidget(), Qt::Window), list1_(list1), decided_(std::move(decided)) {
+frmList2::frmList2(frmList1* list1) : QWidget(list1->parentWidget(), Qt::Window), list1_(list1) {
     setObjectName("frmList2");
     setWindowTitle(QString::fromStdString(kTitle));
 
@@ -66,7 +65,7 @@ frmList2::frmList2(frmList1* list1, std::function<void()> decided)
     main->addWidget(vsfDrvList, 1);
     main->addLayout(keys);
 
-    vsfDrvList->onRowChange = [this](int row) { page_.Row = row; };
+    connect(vsfDrvList, &GridView::rowChanged, this, [this](int row) { page_.Row = row; });
     connect(cmdDecide, &QPushButton::clicked, this, &frmList2::cmdDecide_Click);
     connect(cmdReverse, &QPushButton::clicked, this, &frmList2::cmdReverse_Click);
     connect(CmdCancel, &QPushButton::clicked, list1_, &frmList1::Wizard_Unload);
@@ -91,10 +90,10 @@ void frmList2::Form_Activate() {
 
 void frmList2::cmdDecide_Click() {
     page_.txtMotor = txtMotor->text().toStdString();
-    bool decided = false;
-    Run_Guarded(kTitle, [&] { decided = DriverPage_Finish(list1_->Page(), page_); });
-    if (!decided) return;
-    if (decided_) decided_();
+    bool finished = false;
+    Run_Guarded(kTitle, [&] { finished = DriverPage_Finish(list1_->Page(), page_); });
+    if (!finished) return;
+    emit decided();
     list1_->Wizard_Unload();
 }
 

@@ -18,7 +18,7 @@ class frmList2 : public QWidget {
     Q_OBJECT
 public:
     // decided runs after "Finish" stored motor and driver.
-    frmList2(frmList1* list1, std::function<void()> decided);
+    explicit frmList2(frmList1* list1);
 
     QLabel* lblMotor = nullptr;
     QLineEdit* txtMotor = nullptr;
@@ -36,6 +36,10 @@ public:
     void Unload();
     const DriverPage& Page() const { return page_; }
 
+signals:
+    // "Finish" committed the selection.
+    void decided();
+
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -43,7 +47,6 @@ protected:
 private:
     DriverPage page_;
     frmList1* list1_;
-    std::function<void()> decided_;
     // The activation that follows the message of a failed rebuild does not
     // rebuild again, so the message does not come back at once for ever.
     bool skipActivation_ = false;
