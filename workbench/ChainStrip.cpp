@@ -71,6 +71,10 @@ void ChainStrip::Disp_Strip(int first) {
     if (ElementCount <= 1) ClearLooks();
 }
 
+int ChainStrip::First() const { return HScroll1->value(); }
+
+void ChainStrip::ScrollTo(int first) { HScroll1->setValue(first); }
+
 void ChainStrip::SetSelectedLook(int slot, bool selected) {
     if (slot < 0 || slot >= kStripSlots) return;
     SelectionLook_Set(Shape1[slot], lblElement[slot], selected);

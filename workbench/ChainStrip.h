@@ -26,6 +26,9 @@ public:
 
     // Shows the elements first .. first + kStripSlots - 1.
     void Disp_Strip(int first);
+    // Where HScroll1 stands, and moving it there (which tells scrolled).
+    int First() const;
+    void ScrollTo(int first);
     // The looks of a slot.
     void SetSelectedLook(int slot, bool selected);
     void ClearLooks();

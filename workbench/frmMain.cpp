@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
-#include <QScrollBar>
 
 #include "base/MsgBox.h"
 #include "calc/mdlCulcurate.h"
@@ -87,7 +86,7 @@ void frmMain::Disp_Reset() {
     strip->Disp_Strip(0);
     strip->ClearLooks();
     setWindowTitle(QString::fromStdString(Caption_Of("Create application")));
-    strip->HScroll1->setValue(0);
+    strip->ScrollTo(0);
     infobox_->Infobox_Clear();
     vsfPatarn->scrollToTop();
     vsfPatarn->setCurrentCell(0, 1);
@@ -111,7 +110,7 @@ void frmMain::Disp_Refresh() {
     }
     infobox_->Disp_Selected();
     Disp_ElementList();
-    Disp_Strip(strip->HScroll1->value());
+    Disp_Strip(strip->First());
 }
 
 void frmMain::Disp_ElementList() { infobox_->Disp_ElementList(); }
@@ -122,7 +121,7 @@ void frmMain::Disp_Strip(int first) {
 }
 
 void frmMain::Disp_Loaded() {
-    Disp_Strip(strip->HScroll1->value());
+    Disp_Strip(strip->First());
     imgElement_Click(1);
     Disp_Refresh();
 }
@@ -143,8 +142,8 @@ void frmMain::imgElement_Click(int index) {
 
 // The selected element comes into the visible slots of the strip, highlighted.
 void frmMain::Strip_ShowSelected() {
-    const int first = Strip_FirstShowing(strip->HScroll1->value());
-    strip->HScroll1->setValue(first);
+    const int first = Strip_FirstShowing(strip->First());
+    strip->ScrollTo(first);
     HScroll1_Change(first);
 }
 
@@ -159,12 +158,12 @@ void frmMain::Picture1_KeyDown(int key) {
     switch (key) {
         case Qt::Key_Delete: RunCommand([this] { mnuDelete1_Click(); }); return;
         case Qt::Key_Left:
-            if (Strip_Left()) strip->HScroll1->setValue(0);
+            if (Strip_Left()) strip->ScrollTo(0);
             break;
         case Qt::Key_Right: Strip_Right(); break;
         default: return;
     }
-    HScroll1_Change(strip->HScroll1->value());
+    HScroll1_Change(strip->First());
     if (SelectedElement != 0) infobox_->cboElement_Select(SelectedElement - 1);
 }
 
@@ -288,7 +287,7 @@ void frmMain::imgElement_DragDrop(int index, int16_t type) {
 
 void frmMain::mnuDelete1_Click() {
     if (!Chain_Delete()) return;
-    if (SelectedElement == 0) strip->HScroll1->setValue(0);
+    if (SelectedElement == 0) strip->ScrollTo(0);
     Disp_Refresh();
 }
 
