@@ -7,12 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 
-namespace {
-
-// A descriptor of the regular file at path, or -1, and the size the file
-// has now. The open does not wait for a writer, so a FIFO is refused
-// instead of blocking.
-int Open_Regular(const std::string& path, std::size_t& size) {
+int File_OpenRegular(const std::string& path) {
     const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (fd < 0) return -1;
     struct stat st {};
@@ -20,20 +15,17 @@ int Open_Regular(const std::string& path, std::size_t& size) {
         ::close(fd);
         return -1;
     }
-    size = static_cast<std::size_t>(st.st_size);
     return fd;
 }
 
-}  // namespace
-
 bool File_ReadPrefix(const std::string& path, std::size_t limit, std::string& bytes) {
     bytes.clear();
-    std::size_t size = 0;
-    const int fd = Open_Regular(path, size);
+    const int fd = File_OpenRegular(path);
     if (fd < 0) return false;
     // Room for the size the file says it has; a file that grows meanwhile, or
     // says 0 as some system files do, is read on to its end or the limit.
-    bytes.reserve(std::min(size, limit));
+    struct stat st {};
+    if (::fstat(fd, &st) == 0) bytes.reserve(std::min(static_cast<std::size_t>(st.st_size), limit));
     char chunk[16384];
     bool ok = true;
     while (bytes.size() < limit) {
@@ -51,8 +43,7 @@ bool File_ReadPrefix(const std::string& path, std::size_t limit, std::string& by
 }
 
 bool File_Readable(const std::string& path) {
-    std::size_t size = 0;
-    const int fd = Open_Regular(path, size);
+    const int fd = File_OpenRegular(path);
     if (fd < 0) return false;
     ::close(fd);
     return true;

@@ -13,3 +13,7 @@ bool File_ReadPrefix(const std::string& path, std::size_t limit, std::string& by
 
 // True when the path names a regular file that can be opened for reading.
 bool File_Readable(const std::string& path);
+
+// A descriptor open for reading on the regular file at path, or -1. The open
+// never waits (a FIFO is refused, not waited on); the caller closes it.
+int File_OpenRegular(const std::string& path);

@@ -5,7 +5,6 @@
 
 #include "base/NumberFormat.h"
 #include "base/Numeric.h"
-#include "base/RuntimeError.h"
 #include "units/UnitTable.h"
 
 namespace {
@@ -32,10 +31,7 @@ void Patarn_SetField(PatarnTable& table, int16_t row, int16_t kind, int16_t unit
     if (!InTable(row) || field < FieldTime || field > FieldRowState) return;
     PatarnRow& r = table[row];
     if (field == FieldRowState) {
-        if (value == kOver) return;
-        const double state = Round_Even(value);
-        if (!(state >= -32768.0 && state <= 32767.0)) throw RuntimeError("Overflow");
-        r.RowState = static_cast<int16_t>(state);
+        if (value != kOver) r.RowState = CInt(value);
         return;
     }
     r.*kFields[field] = value == kOver ? value : ToS(kind, unit, value);

@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <functional>
 
+#include "base/ReadFile.h"
+
 namespace {
 
 // Every byte written; a write cut short by a signal is taken up again.
@@ -62,7 +64,7 @@ bool File_Replace(const std::string& path, std::string_view bytes) {
 }
 
 bool File_CopyOver(const std::string& source, const std::string& target) {
-    const int from = ::open(source.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    const int from = File_OpenRegular(source);
     if (from < 0) return false;
     const bool copied = Replace_With(target, [from](int fd) { return CopyAll(from, fd); });
     ::close(from);

@@ -11,6 +11,7 @@
 bool File_Replace(const std::string& path, std::string_view bytes);
 
 // Replaces the target whole with a copy of the source file's bytes, read in
-// chunks whatever its size. False when the source cannot be read or the
-// target written; the target is then untouched.
+// chunks whatever its size. False when the source is no regular file or
+// cannot be read, or the target cannot be written; the target is then
+// untouched.
 bool File_CopyOver(const std::string& source, const std::string& target);

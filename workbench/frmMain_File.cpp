@@ -40,8 +40,7 @@ void frmMain::mnuFileOpen_Click() {
     if (!ConfirmLeave()) return;
     const QString path = FileDialog_Open(this, kDocumentFilter);
     if (path.isEmpty()) return;
-    FileName = path.toStdString();
-    File_Load(FileName, LoadHooks());
+    File_Load(path.toStdString(), LoadHooks());  // the file's name becomes the document's
     imgElement_Click(1);
 }
 

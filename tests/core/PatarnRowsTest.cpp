@@ -1,6 +1,7 @@
 // The row operations of an operating pattern.
 #include "core/PatarnRows.h"
 
+#include "base/RuntimeError.h"
 #include "tests/calc/CalcFixture.h"
 #include "units/UnitTable.h"
 
@@ -78,6 +79,11 @@ TEST_F(PatternRows, RowStateIsRoundedToEven) {
     EXPECT_EQ(Patarn[1].RowState, 2);
     Patarn_SetField(Patarn, 1, 0, 0, 8, 9);
     EXPECT_EQ(Patarn[1].RowState, 2);
+}
+
+TEST_F(PatternRows, ARowStateOutsideSixteenBitsIsTheFailureOverflow) {
+    EXPECT_THROW(Patarn_SetField(Patarn, 1, 0, 0, 40000, FieldRowState), RuntimeError);
+    EXPECT_EQ(Patarn[1].RowState, 0);
 }
 
 TEST_F(PatternRows, InsertedRowsKeepTheirMotionAndLoseTheirResults) {
