@@ -150,4 +150,5 @@ inline std::array<int16_t, 11> MecaTemplateCount{};
 //   selection/MotorPage.h     MotorRowCount, SelectedMotorModel, MotorCommentList
 //   selection/DriverJudge.h   DriverTypes
 //   persist/mdlFile.h         UnreadFile
+//   reports/CommentBox.h      BoxText, BoxWidth, BoxLines
 //   base/MsgBox.cpp           the installed message handler (MsgBox_SetHandler)

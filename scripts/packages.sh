@@ -2,7 +2,8 @@
 # skipping apt entirely when all are present.
 TORVANE_PACKAGES="build-essential cmake ninja-build ccache pkg-config \
 libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev \
-qt6-base-dev qt6-base-dev-tools qt6-svg-dev libgl-dev libcups2-dev libinih-dev"
+qt6-base-dev qt6-base-dev-tools qt6-svg-dev libgl-dev libcups2-dev libinih-dev \
+libpugixml-dev librsvg2-dev libcairo2-dev fonts-dejavu-core cups-daemon cups-client poppler-utils"
 
 torvane_install_packages() {
     local missing=()

@@ -84,14 +84,7 @@ int Run_Series(bool json) {
 
 int Run_Judge(const std::string& file, const std::string& series, const std::string& model, bool json) {
     MotorPage page;
-    if (!Open(file, page)) return 1;
-    const int s = IndexOf(page.lstS, series);
-    if (s < 0) return NotFound("series", series);
-    MotorPage_PickSeries(page, s);
-    const int g = IndexOf(page.lstM, model);
-    if (g < 0) return NotFound("model", model);
-    MotorPage_PickModel(page, g);
-    MotorPage_Judge(page);
+    if (const int code = Group_Judge(file, series, model, page)) return code;
     Print(series + " / " + model, page.vsfData, json);
     return 0;
 }
@@ -122,6 +115,18 @@ int Run_Select(const std::string& file, const std::string& motor, const std::str
 }
 
 }  // namespace
+
+int Group_Judge(const std::string& file, const std::string& series, const std::string& model, MotorPage& page) {
+    if (!Open(file, page)) return 1;
+    const int s = IndexOf(page.lstS, series);
+    if (s < 0) return NotFound("series", series);
+    MotorPage_PickSeries(page, s);
+    const int g = IndexOf(page.lstM, model);
+    if (g < 0) return NotFound("model", model);
+    MotorPage_PickModel(page, g);
+    MotorPage_Judge(page);
+    return 0;
+}
 
 SelectionCli::SelectionCli(CLI::App& app)
     : series_(app.add_subcommand("series", "List the motor series of the catalogue and their model groups")),

@@ -7,6 +7,13 @@
 
 #include <string>
 
+#include "selection/MotorPage.h"
+
+// Opens the file and the motor page, picks the series and the model group
+// and judges its motors: 0, or the exit code when a name is unknown or the
+// file cannot be read.
+int Group_Judge(const std::string& file, const std::string& series, const std::string& model, MotorPage& page);
+
 class SelectionCli {
 public:
     explicit SelectionCli(CLI::App& app);

@@ -7,6 +7,7 @@
 
 #include "app/cli/ChainPrint.h"
 #include "app/cli/Json.h"
+#include "app/cli/ReportCli.h"
 #include "app/cli/ResultsCli.h"
 #include "app/cli/SelectionCli.h"
 #include "app/cli/SizeCli.h"
@@ -55,6 +56,7 @@ int main(int argc, char** argv) {
     templ->add_flag("--json", json, "print JSON instead of text");
     SelectionCli selection(app);
     ResultsCli results(app);
+    ReportCli report(app);
     SizeCli size(app);
 
     try {
@@ -67,6 +69,7 @@ int main(int argc, char** argv) {
         if (templ->parsed()) return RunTemplate(number, json);
         if (const int code = selection.Run(); code >= 0) return code;
         if (const int code = results.Run(); code >= 0) return code;
+        if (const int code = report.Run(); code >= 0) return code;
         if (const int code = size.Run(); code >= 0) return code;
     } catch (const RuntimeError& e) {
         std::cerr << "torvane-cli: " << e.what() << '\n';

@@ -11,6 +11,7 @@
 #include "core/Tables.h"
 #include "core/Templates.h"
 #include "persist/mdlFile.h"
+#include "reports/CommentBox.h"
 #include "selection/DriverJudge.h"
 #include "selection/MotorPage.h"
 #include "selection/mdlDataBase.h"
@@ -43,6 +44,8 @@ void State_Reset() {
     SelectedMotorModel.clear();
     MotorCommentList.clear();
     DriverTypes.clear();
+    BoxText.clear();
+    BoxWidth = BoxLines = 0;
 }
 
 TempDir::TempDir() {

@@ -1,0 +1,20 @@
+// Opens with its header: commands/ListPrintCommands.h.
+#include "commands/ListPrintCommands.h"
+
+#include "base/Cp1252.h"
+
+static_assert(kMotorCols == kListColumns, "the list prints every column of the motor grid");
+
+bool ListPrint_MayOpen(const MotorPage& page) { return page.lstSIndex >= 0 && page.lstMIndex >= 0; }
+
+ListSheet ListPrint_Sheet(const MotorPage& page) {
+    ListSheet sheet;
+    sheet.series = Utf8_ToCp1252(page.lstS.at(page.lstSIndex));
+    sheet.model = Utf8_ToCp1252(page.lstM.at(page.lstMIndex));
+    for (int col = 0; col < kListColumns; ++col) sheet.units[col] = Utf8_ToCp1252(page.vsfData.Cell(1, col).text);
+    for (int row = kFixedRows; row < kFixedRows + MotorRowCount && row < page.vsfData.Rows(); ++row) {
+        auto& cells = sheet.motors.emplace_back();
+        for (int col = 0; col < kListColumns; ++col) cells[col] = Utf8_ToCp1252(page.vsfData.Cell(row, col).text);
+    }
+    return sheet;
+}

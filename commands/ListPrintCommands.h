@@ -1,0 +1,12 @@
+// The wizard's "Print" without its window: whether the series list may be
+// printed, and the list as the motor page shows it.
+#pragma once
+
+#include "reports/ListPrint.h"
+#include "selection/MotorPage.h"
+
+// Nothing prints while no series or no model group is picked.
+bool ListPrint_MayOpen(const MotorPage& page);
+
+// The page's grid, series and group as the list prints them.
+ListSheet ListPrint_Sheet(const MotorPage& page);
