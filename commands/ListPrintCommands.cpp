@@ -2,6 +2,7 @@
 #include "commands/ListPrintCommands.h"
 
 #include "base/Cp1252.h"
+#include "commands/PrintCommands.h"
 
 static_assert(kMotorCols == kListColumns, "the list prints every column of the motor grid");
 
@@ -17,4 +18,12 @@ ListSheet ListPrint_Sheet(const MotorPage& page) {
         for (int col = 0; col < kListColumns; ++col) cells[col] = Utf8_ToCp1252(page.vsfData.Cell(row, col).text);
     }
     return sheet;
+}
+
+std::string ListPrint_StatusLine(const std::string& printer, const std::string& defaultPrinter, int jobs) {
+    // The default printer's prefix is kept byte for byte, each byte one character.
+    static const StatusWords kWords{"\x92\xCA\x8F\xED\x8E\x67\x82\xA4\xCC\xDF\xD8\xDD\xC0\x3A",
+                                    "on-line\x81]Documents in queue:",
+                                    "Attention required: Cannot access document to be printed."};
+    return Status_Line(kWords, printer, defaultPrinter, jobs);
 }

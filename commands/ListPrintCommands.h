@@ -8,5 +8,8 @@
 // Nothing prints while no series or no model group is picked.
 bool ListPrint_MayOpen(const MotorPage& page);
 
+// The series list dialog's status line, with the words of its own.
+std::string ListPrint_StatusLine(const std::string& printer, const std::string& defaultPrinter, int jobs);
+
 // The page's grid, series and group as the list prints them.
 ListSheet ListPrint_Sheet(const MotorPage& page);

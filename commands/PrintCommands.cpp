@@ -7,6 +7,7 @@
 #include "core/Text.h"
 #include "persist/MtrUser.h"
 #include "reports/CommentBox.h"
+#include "reports/PdfExport.h"
 #include "reports/PrintRoutines.h"
 
 const std::array<InfoRowCaption, kInfoRows> kInfoRowCaptions = {{
@@ -115,17 +116,23 @@ PrintRequest Print_Request(const PrintDialogState& state, const std::string& pri
     return request;
 }
 
-std::string Print_StatusLine(const std::string& printer, const std::string& defaultPrinter, int jobs) {
+std::string Status_Line(const StatusWords& words, const std::string& printer, const std::string& defaultPrinter,
+                        int jobs) {
     if (defaultPrinter.empty()) return {};
-    const std::string prefix = printer == defaultPrinter ? "Default Printer:" : printer + ":";
-    const std::string queue = "Online\x81]Document in queue:";
-    if (jobs == 0) return prefix + queue + "0";
-    if (jobs >= 1 && jobs <= 99) return prefix + queue + std::to_string(jobs);
-    return prefix + "Attention required:Cannot access document to be printed.";
+    const std::string prefix = printer == defaultPrinter ? words.defaultPrefix : printer + ":";
+    if (jobs >= 0 && jobs <= 99) return prefix + words.queue + std::to_string(jobs);
+    return prefix + words.failure;
+}
+
+std::string Print_StatusLine(const std::string& printer, const std::string& defaultPrinter, int jobs) {
+    static const StatusWords kWords{"Default Printer:", "Online\x81]Document in queue:",
+                                    "Attention required:Cannot access document to be printed."};
+    return Status_Line(kWords, printer, defaultPrinter, jobs);
 }
 
 bool Print_Command(const PrintDialogState& state, ReportLibrary& wr, const PrintRequest& request,
                    const std::function<void(const std::string& path)>& printAttachment) {
+    if (request.printer.empty()) return false;
     PRINTINFO_Set(state);
     Report_PrintParts(wr, request);
     if (state.PrintCheck[kPrintAttachment]) {
@@ -135,4 +142,15 @@ bool Print_Command(const PrintDialogState& state, ReportLibrary& wr, const Print
             printAttachment(state.txtTemp);
     }
     return MsgBox("OK to exit printing?", "Print", MsgIcon::None, MsgButtons::YesNo) == MsgAnswer::Yes;
+}
+
+bool Print_Export(const PrintRequest& request, const std::string& path) {
+    const auto& check = request.PrintCheck;
+    if (!check[kPrintCover] && !check[kPrintElements] && !check[kPrintPattern] && !check[kPrintNotes]) {
+        MsgBox("There is nothing to export: check an item to print.", "Export PDF", MsgIcon::Exclamation);
+        return false;
+    }
+    if (Report_ExportPdf(path, [&request](ReportLibrary& wr) { Report_PrintParts(wr, request); })) return true;
+    MsgBox("The PDF file could not be written.", "Export PDF", MsgIcon::Exclamation);
+    return false;
 }

@@ -59,12 +59,29 @@ void Print_Unload(const PrintDialogState& state);
 // What the report needs of the dialog, to print on printer at date.
 PrintRequest Print_Request(const PrintDialogState& state, const std::string& printer, const std::string& date);
 
-// The status line of the printer: the default printer's jobs (jobs -1 when
-// the queue cannot be asked). Empty when there is no default printer.
+// The words of a printer's status line.
+struct StatusWords {
+    std::string defaultPrefix;  // in front for the default printer; others have their name and ":"
+    std::string queue;          // in front of the count of jobs
+    std::string failure;        // when the queue cannot be read
+};
+
+// The status line of the printer from the count of its jobs (-1 when the
+// queue cannot be asked). Empty when there is no default printer.
+std::string Status_Line(const StatusWords& words, const std::string& printer, const std::string& defaultPrinter,
+                        int jobs);
+
+// The print dialog's status line.
 std::string Print_StatusLine(const std::string& printer, const std::string& defaultPrinter, int jobs);
 
 // "Print": stores the block, prints the checked parts through the engine,
 // then the attachment through printAttachment (a missing file is told), and
-// asks "OK to exit printing?". True when the dialog is to close.
+// asks "OK to exit printing?". True when the dialog is to close. Without a
+// printer nothing happens.
 bool Print_Command(const PrintDialogState& state, ReportLibrary& wr, const PrintRequest& request,
                    const std::function<void(const std::string& path)>& printAttachment);
+
+// "Export PDF...": the checked parts of the report into the PDF file at
+// path, with no printer. False, after a message, when nothing is checked or
+// the file cannot be written.
+bool Print_Export(const PrintRequest& request, const std::string& path);

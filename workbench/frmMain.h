@@ -52,6 +52,8 @@ public:
     bool mnuFileSaveAs_Click();
     void mnuMortorSelect_Click();
     void mnuCulcurate_Click();
+    // The report of the document, as the print dialog would print it, into a PDF file.
+    void mnuFileExport_Click();
     void mnuPatarn_Click();
     void mnuPerSet_Click();
     void mnuElementSelect_Click();

@@ -14,6 +14,7 @@
 
 #include "pattern/ui/PatarnGrid.h"
 #include "pattern/ui/PatternGraph.h"
+#include "reports/ui/frmPrint.h"
 #include "workbench/ChainStrip.h"
 #include "workbench/ResultGrid.h"
 #include "workbench/frmAbout.h"
@@ -118,7 +119,8 @@ void frmMain::BuildMenus() {
     add(file, "mnuFileSaveAs", "Save As(&A)", {}, [this] { mnuFileSaveAs_Click(); });
     add(file, "mnuCulcurate", "Save Results", {}, [this] { mnuCulcurate_Click(); });
     file->addSeparator();
-    add(file, "mnuFilePrint", "Print(&P)...", QKeySequence("Ctrl+P"), nullptr);
+    add(file, "mnuFilePrint", "Print(&P)...", QKeySequence("Ctrl+P"), [this] { frmPrint(this).exec(); });
+    add(file, "mnuFileExport", "Export PDF...", {}, [this] { mnuFileExport_Click(); });
     add(file, "mnu", "Administrator(&U)", {}, [this] { frmUser(this).exec(); });
     file->addSeparator();
     QAction* end = file->addAction("Exit(&X)");

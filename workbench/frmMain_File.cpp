@@ -1,18 +1,20 @@
 // The file commands of the main window: New's question, Open, Save, Save As,
-// Save Results, and the position kept at closing.
+// Save Results, Export PDF, and the position kept at closing.
 #include <QApplication>
 
 #include "commands/DocumentCommands.h"
+#include "commands/PrintCommands.h"
 #include "common/ui/QtSettingsStore.h"
 #include "core/Tables.h"
 #include "persist/mdlFile.h"
-#include "workbench/FileDialog.h"
+#include "common/ui/FileDialog.h"
 #include "workbench/frmMain.h"
 
 namespace {
 
 const QString kDocumentFilter = "Motor Selection Data(*.AP2)";
 const QString kResultsFilter = "(*.TXT)";
+const QString kPdfFilter = "PDF files (*.pdf)";
 
 class Hourglass {
 public:
@@ -65,3 +67,10 @@ bool frmMain::AskResultsFile(std::string& fileName) {
 }
 
 void frmMain::StorePosition() { Window_Store(this, kMainWindowKeys); }
+
+void frmMain::mnuFileExport_Click() {
+    const QString path = FileDialog_Save(this, kPdfFilter);
+    if (path.isEmpty()) return;
+    Hourglass wait;
+    Print_Export(Print_Request(Print_Open(), "", Report_Today()), path.toStdString());
+}

@@ -9,7 +9,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "commands/ListPrintCommands.h"
 #include "common/ui/RunGuarded.h"
+#include "reports/ui/frmListPrint.h"
 #include "selection/DriverPage.h"
 #include "selection/mdlDataBase.h"
 #include "selection/ui/GridView.h"
@@ -53,7 +55,6 @@ frmList1::frmList1(QWidget* parent) : QWidget(parent, Qt::Window) {
     lblComment->setMinimumHeight(2 * fontMetrics().height() + 6);
     cmdJudge = Wizard_Button(this, "cmdJudge", "Judgement");
     CmdPrint = Wizard_Button(this, "CmdPrint", "Print");
-    CmdPrint->setEnabled(false);  // the series list print dialog comes with the reports
     cmdReverce = Wizard_Button(this, "cmdReverce", "< Back(&B)");
     cmdNext = Wizard_Button(this, "cmdNext", "Next >");
     CmdCancel = Wizard_Button(this, "CmdCancel", "Cancel");
@@ -90,6 +91,7 @@ frmList1::frmList1(QWidget* parent) : QWidget(parent, Qt::Window) {
         lblComment->setText(QString::fromStdString(page_.lblComment));
     });
     connect(cmdJudge, &QPushButton::clicked, this, &frmList1::cmdJudge_Click);
+    connect(CmdPrint, &QPushButton::clicked, this, &frmList1::CmdPrint_Click);
     connect(cmdNext, &QPushButton::clicked, this, &frmList1::cmdNext_Click);
     connect(cmdReverce, &QPushButton::clicked, this, &frmList1::Wizard_Unload);
     connect(CmdCancel, &QPushButton::clicked, this, &frmList1::Wizard_Unload);
@@ -178,4 +180,11 @@ void frmList1::closeEvent(QCloseEvent* event) {
         list2_ = nullptr;
     }
     QWidget::closeEvent(event);
+}
+
+void frmList1::CmdPrint_Click() {
+    if (!ListPrint_MayOpen(page_)) return;
+    ListSheet sheet;
+    if (!Run_Guarded("Motor Selection", [&] { sheet = ListPrint_Sheet(page_); })) return;
+    frmListPrint(std::move(sheet), this).Open();
 }

@@ -39,6 +39,8 @@ public:
     void lstM_Click(int index);
     void cmdJudge_Click();
     void cmdNext_Click();
+    // "Print": the series list print dialog, while a series and a group are picked.
+    void CmdPrint_Click();
     // "< Back" and "Cancel": both pages unload, the selection that stood stays.
     void Wizard_Unload();
     // The page that is up, or this one when the driver page never came.

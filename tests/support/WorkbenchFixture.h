@@ -15,7 +15,7 @@
 #include "core/Tables.h"
 #include "pattern/ui/PatarnGrid.h"
 #include "tests/support/TestState.h"
-#include "workbench/FileDialog.h"
+#include "common/ui/FileDialog.h"
 #include "workbench/frmMain.h"
 #include "workbench/frmMeca.h"
 

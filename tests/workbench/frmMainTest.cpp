@@ -22,7 +22,7 @@
 #include "tests/support/WorkbenchFixture.h"
 #include "tests/support/TestState.h"
 #include "workbench/ChainStrip.h"
-#include "workbench/FileDialog.h"
+#include "common/ui/FileDialog.h"
 #include "workbench/ResultGrid.h"
 #include "workbench/frmMain.h"
 #include "workbench/frmMeca.h"

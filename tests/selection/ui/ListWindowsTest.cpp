@@ -16,7 +16,7 @@
 #include "tests/support/WorkbenchFixture.h"
 #include "tests/selection/CatalogueFixture.h"
 #include "tests/selection/SizedDocument.h"
-#include "workbench/FileDialog.h"
+#include "common/ui/FileDialog.h"
 #include "workbench/ResultGrid.h"
 
 namespace {

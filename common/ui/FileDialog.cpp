@@ -1,4 +1,4 @@
-#include "workbench/FileDialog.h"
+#include "common/ui/FileDialog.h"
 
 #include <QFileDialog>
 
