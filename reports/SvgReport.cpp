@@ -53,6 +53,15 @@ cairo_status_t AppendPng(void* closure, const unsigned char* data, unsigned int 
     return CAIRO_STATUS_SUCCESS;
 }
 
+// Drops the objects that lie inside node's content, which is about to go.
+void Forget(std::unordered_map<std::string, pugi::xml_node>& objects, pugi::xml_node node) {
+    for (pugi::xml_node child = node.first_child(); child; child = child.next_sibling()) {
+        const auto it = objects.find(child.attribute("id").value());
+        if (it != objects.end() && it->second == child) objects.erase(it);
+        Forget(objects, child);
+    }
+}
+
 bool Png(cairo_surface_t* image, std::string& png) {
     return cairo_surface_write_to_png_stream(image, AppendPng, &png) == CAIRO_STATUS_SUCCESS;
 }
@@ -177,6 +186,7 @@ int32_t SvgReportLibrary::wrSetText(int32_t handle, const std::string& object, c
     const auto it = r->objects.find(object);
     if (it == r->objects.end() || std::string_view(it->second.name()) != "text") return r->Fail(kNoObject);
     pugi::xml_node node = it->second;
+    Forget(r->objects, node);
     while (node.first_child()) node.remove_child(node.first_child());
     const std::vector<std::string> lines = Lines(text);
     if (lines.size() == 1) {

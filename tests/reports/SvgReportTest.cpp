@@ -468,3 +468,30 @@ TEST_F(SvgReportTest, EveryObjectTheFillingNamesIsInItsTemplate) {
     ASSERT_TRUE(sink.Finish());
     EXPECT_EQ(PdfPages(Pdf()), 7);
 }
+
+TEST_F(SvgReportTest, ObjectsInsideAReplacedTextAreGoneWithIt) {
+    WriteFile(appDir.File("nested.svg"),
+              "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 210 297\"><g id=\"Page1\">"
+              "<text id=\"Outer\" x=\"10\" y=\"10\" font-size=\"4\">head <tspan id=\"Inner\">inner</tspan>"
+              "<text id=\"Deep\" x=\"10\" y=\"20\">deep</text></text><text id=\"Other\" x=\"10\" y=\"40\"/></g></svg>");
+    PdfFileSink sink(Pdf());
+    SvgReportLibrary engine(sink);
+    const int32_t h = Load(engine, "nested.svg");
+    ASSERT_NE(h, -1);
+    ASSERT_EQ(engine.wrSetObjectProp(h, "Inner", "VISIBLE", ReportProperty{}), 1);
+    ASSERT_EQ(engine.wrSetText(h, "Outer", "Replaced\r\ntwice"), 1);
+    // The old content went, and its objects with it.
+    EXPECT_EQ(engine.wrSetObjectProp(h, "Inner", "VISIBLE", ReportProperty{}), 0);
+    EXPECT_EQ(engine.wrSetText(h, "Deep", "x"), 0);
+    EXPECT_EQ(engine.wrSetObjectProp(h, "Deep", "VISIBLE", ReportProperty{}), 0);
+    EXPECT_EQ(engine.wrSetText(h, "Other", "Kept object"), 1);
+    EXPECT_EQ(engine.wrSetText(h, "Outer", "Again"), 1);
+    ASSERT_TRUE(PrintPage(engine, h));
+    engine.wrUnloadReport(h);
+    ASSERT_TRUE(sink.Finish());
+    const std::string text = PdfText(Pdf());
+    EXPECT_TRUE(Holds(text, "Again"));
+    EXPECT_TRUE(Holds(text, "Kept object"));
+    EXPECT_FALSE(Holds(text, "deep"));
+    EXPECT_FALSE(Holds(text, "Replaced"));
+}
