@@ -19,7 +19,7 @@
 #include "reports/Printers.h"
 #include "reports/ReportFill.h"
 #include "reports/SvgReport.h"
-#include "reports/ui/PrinterProperties.h"
+#include "reports/ui/PrinterChoice.h"
 
 namespace {
 constexpr const char* kTitle = "Print Motor Series Selection Results";
@@ -90,18 +90,9 @@ void frmListPrint::changeEvent(QEvent* event) {
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) CboPrinter_Click();
 }
 
-void frmListPrint::CboPrinter_Click() {
-    const std::string defaultPrinter = Printer_Default();
-    if (defaultPrinter.empty()) return;
-    const std::string printer = Printer().toStdString();
-    LblSettings->setText(Cp1252_ToQString(ListPrint_StatusLine(printer, defaultPrinter, Printer_JobCount(printer))));
-}
+void frmListPrint::CboPrinter_Click() { PrinterChoice_Status(CboPrinter, LblSettings, ListPrint_StatusLine); }
 
-void frmListPrint::CmdPropaty_Click() {
-    if (CboPrinter->count() == 0) return;
-    if (!PrinterProperties_Show(this, Printer()))
-        MsgBox("Cannot Display", "Printer Propaties", MsgIcon::Exclamation);
-}
+void frmListPrint::CmdPropaty_Click() { PrinterChoice_Properties(this, CboPrinter, "Cannot Display", "Printer Propaties"); }
 
 void frmListPrint::CmdPrint_Click() {
     ListPrinted printed = ListPrinted::Failed;

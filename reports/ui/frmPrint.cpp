@@ -27,7 +27,7 @@
 #include "reports/PageSink.h"
 #include "reports/Printers.h"
 #include "reports/SvgReport.h"
-#include "reports/ui/PrinterProperties.h"
+#include "reports/ui/PrinterChoice.h"
 
 namespace {
 
@@ -319,18 +319,9 @@ void frmPrint::SSTab1_Click(int tab) {
     for (std::size_t i = 0; i + 1 < order.size(); ++i) setTabOrder(order[i], order[i + 1]);
 }
 
-void frmPrint::CboPrinter_Click() {
-    const std::string defaultPrinter = Printer_Default();
-    if (defaultPrinter.empty()) return;
-    const std::string printer = Printer().toStdString();
-    LblStatus->setText(Cp1252_ToQString(Print_StatusLine(printer, defaultPrinter, Printer_JobCount(printer))));
-}
+void frmPrint::CboPrinter_Click() { PrinterChoice_Status(CboPrinter, LblStatus, Print_StatusLine); }
 
-void frmPrint::CmdPropaty_Click() {
-    if (CboPrinter->count() == 0) return;
-    if (!PrinterProperties_Show(this, Printer()))
-        MsgBox("Cannot display printer properties.", "printer properties", MsgIcon::Exclamation);
-}
+void frmPrint::CmdPropaty_Click() { PrinterChoice_Properties(this, CboPrinter, "Cannot display printer properties.", "printer properties"); }
 
 void frmPrint::cmdFile_Click() {
     const QString path = FileDialog_Open(this, "Word doc (*.doc);;Text Files (*.txt);;All Files (*)");
