@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/RuntimeError.h"
 #include "commands/PrintCommands.h"
 #include "core/Tables.h"
 #include "reports/CommentBox.h"
@@ -73,6 +74,14 @@ TEST_F(PrintCommandsTest, WithoutMtrUserOrWithAnEmptyOneTheAdministratorRowsAreE
     EXPECT_EQ(AdminRows(Print_Open()), empty);
     WriteMtrUser("");
     EXPECT_EQ(AdminRows(Print_Open()), empty);
+}
+
+TEST_F(PrintCommandsTest, AMalformedMtrUserIsAnError) {
+    PRINTINFO.PrintInfoSet = 0;
+    WriteMtrUser("\"Only\"\r\n\"three\"\r\n\"lines\"\r\n");
+    EXPECT_THROW(Print_Open(), RuntimeError);
+    PRINTINFO.PrintInfoSet = 1;  // a stored block does not read the file
+    EXPECT_NO_THROW(Print_Open());
 }
 
 TEST_F(PrintCommandsTest, OpeningShowsTheBlockTheSelectionAndTheBoxes) {
