@@ -1,5 +1,4 @@
-// The component settings (frmInfobox) driven as a user drives them: the
-// element picked, settings typed into the grid, the direct inputs switched.
+// The component settings (frmInfobox) as a user drives them: elements picked, settings typed, direct inputs switched.
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>

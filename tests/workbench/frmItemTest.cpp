@@ -1,5 +1,4 @@
-// The palette (frmItem) driven as a user drives it: its tabs and cells, cells
-// double-clicked, keyed and dragged onto the strip.
+// The palette (frmItem) as a user drives it: its tabs, and cells double-clicked, keyed and dragged onto the strip.
 #include <QApplication>
 #include <QComboBox>
 #include <QFrame>

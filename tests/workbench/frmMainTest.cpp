@@ -1,4 +1,4 @@
-// The main window (frmMain) driven as a user drives it: the start, the strip, the pattern grid, the menus and the file commands.
+// The main window (frmMain) as a user drives it: the start, the strip, the pattern grid, the menus and the files.
 #include <QAction>
 #include <QApplication>
 #include <QLabel>

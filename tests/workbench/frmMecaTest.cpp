@@ -1,5 +1,4 @@
-// The mechanical system question (frmMeca) driven as a user drives it: Cancel,
-// Enter and the arrow keys over the pictures.
+// The mechanical system question (frmMeca) as a user drives it: Cancel, and Enter and the arrows over the pictures.
 #include <QFrame>
 #include <QPushButton>
 #include <QTest>

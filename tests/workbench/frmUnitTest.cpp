@@ -1,4 +1,4 @@
-// The unit dialog (frmUnit) driven as a user drives it: the picks shown, Defaults, Apply, OK and Cancel.
+// The unit dialog (frmUnit) as a user drives it: the picks shown, Defaults, Apply, OK and Cancel.
 #include <QAbstractButton>
 #include <QAction>
 #include <QButtonGroup>

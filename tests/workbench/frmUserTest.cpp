@@ -1,4 +1,4 @@
-// The administrator dialog (frmUser) driven as a user drives it: Enter through the seven boxes, OK and Cancel.
+// The administrator dialog (frmUser) as a user drives it: Enter through the seven boxes, OK and Cancel.
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>

@@ -1,6 +1,4 @@
-// The motor page of the selection wizard (frmList1) driven as a user drives it:
-// opened from the menu over a sized document, series and models picked,
-// motors judged and one taken on with "Next >".
+// The motor page of the wizard (frmList1) as a user drives it: series and models picked, motors judged, "Next >".
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>

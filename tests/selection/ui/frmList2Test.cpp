@@ -1,6 +1,4 @@
-// The driver page of the selection wizard (frmList2) driven as a user drives
-// it: the drivers of the motor taken on, "Finish", "< Back" and "Cancel", and
-// what the main window and the saved file show afterwards.
+// The driver page of the wizard (frmList2) as a user drives it: its drivers, "Finish", "< Back", "Cancel" and after.
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
