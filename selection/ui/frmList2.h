@@ -34,8 +34,9 @@ signals:
     void decided();
 
 protected:
-    void changeEvent(QEvent* event) override;
+    // Closing the page closes the wizard.
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     QLabel* lblMotor = nullptr;
