@@ -23,7 +23,7 @@ constexpr QSize kSlotPicture(64, 64);
 }  // namespace
 
 ChainStrip::ChainStrip(QWidget* parent) : QWidget(parent) {
-    setObjectName("ChainStrip");
+    setObjectName("strip");
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(6);
     for (int s = 0; s < kStripSlots; ++s) {

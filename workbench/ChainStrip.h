@@ -19,11 +19,6 @@ class ChainStrip : public QWidget {
 public:
     explicit ChainStrip(QWidget* parent = nullptr);
 
-    std::array<QLabel*, kStripSlots> imgElement{};
-    std::array<QLabel*, kStripSlots> lblElement{};
-    std::array<QFrame*, kStripSlots> Shape1{};
-    QScrollBar* HScroll1 = nullptr;
-
     // Shows the elements first .. first + kStripSlots - 1.
     void Disp_Strip(int first);
     // Where HScroll1 stands, and moving it there (which tells scrolled).
@@ -44,4 +39,9 @@ protected:
 
 private:
     int SlotOf(QObject* watched) const;
+
+    std::array<QLabel*, kStripSlots> imgElement{};
+    std::array<QLabel*, kStripSlots> lblElement{};
+    std::array<QFrame*, kStripSlots> Shape1{};
+    QScrollBar* HScroll1 = nullptr;
 };

@@ -12,12 +12,15 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     setWindowTitle("About thie Program");
     setModal(true);
     lblTitle = new QLabel("Torvane", this);
+    lblTitle->setObjectName("lblTitle");
     QFont big = lblTitle->font();
     big.setPointSizeF(big.pointSizeF() * 1.8);
     big.setBold(true);
     lblTitle->setFont(big);
     lblVersion = new QLabel(QString::fromStdString(File_VersionText()), this);
+    lblVersion->setObjectName("lblVersion");
     cmdOK = new QPushButton("OK", this);
+    cmdOK->setObjectName("cmdOK");
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();

@@ -11,6 +11,7 @@ class frmAbout : public QDialog {
 public:
     explicit frmAbout(QWidget* parent = nullptr);
 
+private:
     QLabel* lblTitle = nullptr;
     QLabel* lblVersion = nullptr;
     QPushButton* cmdOK = nullptr;

@@ -20,11 +20,6 @@ public:
     explicit frmInfobox(QWidget* parent = nullptr);
     ~frmInfobox() override;
 
-    QComboBox* cboElement = nullptr;
-    QTableWidget* vsfElement = nullptr;
-    QCheckBox* Check1 = nullptr;
-    QCheckBox* Check2 = nullptr;
-
     int16_t LastGridRow = 1;
     int16_t InternalEdit = 0;
 
@@ -68,6 +63,11 @@ private:
     void Restore_Row(int gridRow);
     void Direct_Toggled(int16_t mode, const std::function<void()>& toggle, int row);
     bool AfterEdit(int gridRow, QString& text);
+
+    QComboBox* cboElement = nullptr;
+    QTableWidget* vsfElement = nullptr;
+    QCheckBox* Check1 = nullptr;
+    QCheckBox* Check2 = nullptr;
 
     bool storing_ = false;  // an edit is being stored
 };

@@ -14,13 +14,14 @@ class frmInsertQ : public QDialog {
 public:
     explicit frmInsertQ(QWidget* parent = nullptr);
 
+    // Asks, and gives the answer as MsgBox gives it.
+    static MsgAnswer Ask(QWidget* parent);
+
+private:
     QPushButton* cmdInsert = nullptr;
     QPushButton* cmdUpdate = nullptr;
     QPushButton* Command1 = nullptr;
 
     // 1 insert, 2 overwrite, -1 cancel (also when the window is closed).
     int16_t Answer = -1;
-
-    // Asks, and gives the answer as MsgBox gives it.
-    static MsgAnswer Ask(QWidget* parent);
 };

@@ -18,11 +18,6 @@ class frmItem : public QWidget {
 public:
     explicit frmItem(QWidget* parent = nullptr);
 
-    QTabBar* TabStrip1 = nullptr;
-    std::array<QLabel*, 10> picElement{};
-    std::array<QLabel*, 10> txtElement{};
-    std::array<QFrame*, 10> Shape{};
-
     int16_t DragArmed = 0;
     int16_t PaletteFocus = 0;
 
@@ -56,6 +51,11 @@ private:
     void picElement_MouseMove(int index);
     void Form_Activate();
     int IndexOf(QObject* watched) const;
+
+    QTabBar* TabStrip1 = nullptr;
+    std::array<QLabel*, 10> picElement{};
+    std::array<QLabel*, 10> txtElement{};
+    std::array<QFrame*, 10> Shape{};
 
     bool firstActivation_ = true;
 };

@@ -70,18 +70,6 @@ public:
     // The motor selection wizard while it is open.
     frmList1* Wizard() const;
 
-    ChainStrip* strip = nullptr;
-    PatarnGrid* vsfPatarn = nullptr;
-    PatternGraph* picCirclePatarn = nullptr;
-    PatternGraph* picTorquePatarn = nullptr;
-    ResultGrid* vsfMotor = nullptr;
-    QLabel* lblMotor = nullptr;
-    QLabel* lblDriver = nullptr;
-    QWidget* Picture1 = nullptr;
-    QToolBar* tbToolBar = nullptr;
-    QMenu* mnuRight1 = nullptr;
-    QMenu* mnuRight2 = nullptr;
-
     QAction* Action(const QString& name) const;
 
 protected:
@@ -108,11 +96,22 @@ private:
     FileLoadHooks LoadHooks();
     bool AskResultsFile(std::string& fileName);
 
+    ChainStrip* strip = nullptr;
+    PatarnGrid* vsfPatarn = nullptr;
+    PatternGraph* picCirclePatarn = nullptr;
+    PatternGraph* picTorquePatarn = nullptr;
+    ResultGrid* vsfMotor = nullptr;
+    QLabel* lblMotor = nullptr;
+    QLabel* lblDriver = nullptr;
+    QWidget* Picture1 = nullptr;
+    QToolBar* tbToolBar = nullptr;
+    QMenu* mnuRight1 = nullptr;
+    QMenu* mnuRight2 = nullptr;
+
     frmMeca* meca_ = nullptr;
     frmPatarn* patarn_ = nullptr;
     frmUnit* unit_ = nullptr;
     frmItem* item_ = nullptr;
     frmInfobox* infobox_ = nullptr;
     QPointer<frmList1> list1_;
-    bool closingConfirmed_ = false;
 };

@@ -46,6 +46,7 @@ frmMeca::frmMeca(QWidget* parent) : QDialog(parent) {
         hasPicture_[i] = !pixmap.isNull();
         if (hasPicture_[i]) picture->setPixmap(pixmap);
         auto* caption = new QLabel(cell);
+        caption->setObjectName(QString("lblMachine%1").arg(i));
         caption->setAlignment(Qt::AlignCenter);
         caption->setAutoFillBackground(true);
         if (i == 0) caption->setText("Manual Selection");

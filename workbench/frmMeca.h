@@ -15,13 +15,6 @@ public:
     // confirmed runs after OK hid the window (the reset of the document).
     explicit frmMeca(QWidget* parent = nullptr);
 
-    std::array<QFrame*, 12> picMachine{};
-    std::array<QLabel*, 12> lblMachine{};
-    QFrame* Shape2 = nullptr;
-    QLabel* lblHandSelect = nullptr;
-    QPushButton* cmdOK = nullptr;
-    QPushButton* CmdCancel = nullptr;
-
     void cmdOK_Click();
     void CmdCancel_Click();
 
@@ -40,6 +33,13 @@ private:
     void SetLook(int index, bool selected);
     void ShowShape2(bool visible);
     int IndexOf(QObject* watched) const;
+
+    std::array<QFrame*, 12> picMachine{};
+    std::array<QLabel*, 12> lblMachine{};
+    QFrame* Shape2 = nullptr;
+    QLabel* lblHandSelect = nullptr;
+    QPushButton* cmdOK = nullptr;
+    QPushButton* CmdCancel = nullptr;
 
     std::array<bool, 12> hasPicture_{};
     bool skipFocus_ = false;

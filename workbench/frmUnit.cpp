@@ -20,6 +20,7 @@ frmUnit::frmUnit(QWidget* parent) : QDialog(parent) {
         auto* frame = new QGroupBox(kUnitCaptions[k], this);
         auto* column = new QVBoxLayout(frame);
         options[k] = new QButtonGroup(this);
+        options[k]->setObjectName(QString("options%1").arg(k));
         for (int i = 0; i < Unit_Count(k); ++i) {
             auto* option = new QRadioButton(Cp1252_ToQString(UnitTable[k].Names[i]), frame);
             options[k]->addButton(option, i);
@@ -32,9 +33,13 @@ frmUnit::frmUnit(QWidget* parent) : QDialog(parent) {
     frames->addWidget(new QLabel("(SI Units)", this), 2, 3, Qt::AlignBottom | Qt::AlignRight);
 
     cmdStartSet = new QPushButton("Defaults", this);
+    cmdStartSet->setObjectName("cmdStartSet");
     cmdReNew = new QPushButton("Apply(&A)", this);
+    cmdReNew->setObjectName("cmdReNew");
     cmdOK = new QPushButton("OK(&Y)", this);
+    cmdOK->setObjectName("cmdOK");
     CmdCancel = new QPushButton("Cancel", this);
+    CmdCancel->setObjectName("CmdCancel");
     cmdOK->setDefault(true);
     connect(cmdStartSet, &QPushButton::clicked, this, &frmUnit::cmdStartSet_Click);
     connect(cmdReNew, &QPushButton::clicked, this, &frmUnit::cmdReNew_Click);

@@ -19,12 +19,6 @@ public:
     // applied runs after the picks were taken on (the main window's refresh).
     explicit frmUnit(QWidget* parent = nullptr);
 
-    std::array<QButtonGroup*, kUnitCategories> options{};
-    QPushButton* cmdStartSet = nullptr;
-    QPushButton* cmdReNew = nullptr;
-    QPushButton* cmdOK = nullptr;
-    QPushButton* CmdCancel = nullptr;
-
     void cmdStartSet_Click();
     void cmdReNew_Click();
 
@@ -41,4 +35,9 @@ private:
     void Form_Load();
     void Show_Picks(const UnitPicks& picks);
 
+    std::array<QButtonGroup*, kUnitCategories> options{};
+    QPushButton* cmdStartSet = nullptr;
+    QPushButton* cmdReNew = nullptr;
+    QPushButton* cmdOK = nullptr;
+    QPushButton* CmdCancel = nullptr;
 };

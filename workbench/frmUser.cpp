@@ -40,7 +40,9 @@ frmUser::frmUser(QWidget* parent) : QDialog(parent) {
         form->addRow(kLabels[i], boxes[i]);
     }
     cmdOK = new QPushButton("OK(&Y)", this);
+    cmdOK->setObjectName("cmdOK");
     CmdCancel = new QPushButton("Cancel", this);
+    CmdCancel->setObjectName("CmdCancel");
     connect(cmdOK, &QPushButton::clicked, this, &frmUser::cmdOK_Click);
     connect(CmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* buttons = new QHBoxLayout;

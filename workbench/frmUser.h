@@ -14,13 +14,14 @@ class frmUser : public QDialog {
 public:
     explicit frmUser(QWidget* parent = nullptr);
 
-    // txtName, txtCorp, txtUnit1, txtUnit2, txtTel, txtFax, txtMail.
-    std::array<QLineEdit*, kAdminLines> boxes{};
-    QPushButton* cmdOK = nullptr;
-    QPushButton* CmdCancel = nullptr;
-
     void cmdOK_Click();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    // txtName, txtCorp, txtUnit1, txtUnit2, txtTel, txtFax, txtMail.
+    std::array<QLineEdit*, kAdminLines> boxes{};
+    QPushButton* cmdOK = nullptr;
+    QPushButton* CmdCancel = nullptr;
 };

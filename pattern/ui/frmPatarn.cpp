@@ -35,9 +35,14 @@ frmPatarn::frmPatarn(std::function<int()> gridRow, QWidget* parent) : QDialog(pa
     mebAccelTime = Field(this, "mebAccelTime");
     mebAccel = Field(this, "mebAccel");
     for (QLineEdit* f : {mebMoveTime, mebMoveDistance, mebAccelTime, mebAccel}) f->installEventFilter(this);
-    for (int i = 0; i < 2; ++i) lblTime[i] = new QLabel(this);
+    for (int i = 0; i < 2; ++i) {
+        lblTime[i] = new QLabel(this);
+        lblTime[i]->setObjectName(QString("lblTime%1").arg(i));
+    }
     lblLength = new QLabel("mm", this);
+    lblLength->setObjectName("lblLength");
     lblRapid = new QLabel("mm/s2", this);
+    lblRapid->setObjectName("lblRapid");
     optTime = new QRadioButton("Accel/decel time", this);
     optTime->setObjectName("optTime");
     optRapid = new QRadioButton("Acceleration", this);

@@ -19,19 +19,6 @@ public:
     // gridRow answers the current row of the pattern grid when OK is pressed.
     explicit frmPatarn(std::function<int()> gridRow, QWidget* parent = nullptr);
 
-    QLineEdit* mebMoveTime = nullptr;
-    QLineEdit* mebMoveDistance = nullptr;
-    QLineEdit* mebAccelTime = nullptr;
-    QLineEdit* mebAccel = nullptr;
-    QRadioButton* optTime = nullptr;
-    QRadioButton* optRapid = nullptr;
-    QLabel* lblTime[2] = {};
-    QLabel* lblLength = nullptr;
-    QLabel* lblRapid = nullptr;
-    QLabel* lblMax = nullptr;
-    QPushButton* cmdOK = nullptr;
-    QPushButton* CmdCancel = nullptr;
-
     void cmdOK_Click();
 
 signals:
@@ -53,6 +40,19 @@ private:
     void Next_Field(QLineEdit* field);
     void Pull();
     void Push();
+
+    QLineEdit* mebMoveTime = nullptr;
+    QLineEdit* mebMoveDistance = nullptr;
+    QLineEdit* mebAccelTime = nullptr;
+    QLineEdit* mebAccel = nullptr;
+    QRadioButton* optTime = nullptr;
+    QRadioButton* optRapid = nullptr;
+    QLabel* lblTime[2] = {};
+    QLabel* lblLength = nullptr;
+    QLabel* lblRapid = nullptr;
+    QLabel* lblMax = nullptr;
+    QPushButton* cmdOK = nullptr;
+    QPushButton* CmdCancel = nullptr;
 
     TrapezoidForm form_;
     std::function<int()> gridRow_;

@@ -22,16 +22,6 @@ public:
     // decided runs after "Finish" of the driver page stored motor and driver.
     explicit frmList1(QWidget* parent = nullptr);
 
-    QListWidget* lstS = nullptr;
-    QListWidget* lstM = nullptr;
-    GridView* vsfData = nullptr;
-    QLabel* lblComment = nullptr;
-    QPushButton* cmdJudge = nullptr;
-    QPushButton* CmdPrint = nullptr;
-    QPushButton* cmdReverce = nullptr;
-    QPushButton* cmdNext = nullptr;
-    QPushButton* CmdCancel = nullptr;
-
     // 1 from the opening until the first activation, which leaves the focus alone.
     int16_t WizardOpening = 0;
 
@@ -60,6 +50,16 @@ protected:
 private:
     void Form_Load();
     void Disp_Page();
+
+    QListWidget* lstS = nullptr;
+    QListWidget* lstM = nullptr;
+    GridView* vsfData = nullptr;
+    QLabel* lblComment = nullptr;
+    QPushButton* cmdJudge = nullptr;
+    QPushButton* CmdPrint = nullptr;
+    QPushButton* cmdReverce = nullptr;
+    QPushButton* cmdNext = nullptr;
+    QPushButton* CmdCancel = nullptr;
 
     MotorPage page_;
     frmList2* list2_ = nullptr;

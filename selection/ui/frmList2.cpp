@@ -110,14 +110,14 @@ void frmList2::Unload() {
     hide();
 }
 
+void frmList2::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    list1_->Wizard_Unload();
+}
+
 void frmList2::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !isVisible()) return;
     if (skipActivation_) skipActivation_ = false;
     else Form_Activate();
-}
-
-void frmList2::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    list1_->Wizard_Unload();
 }

@@ -20,13 +20,6 @@ public:
     // decided runs after "Finish" stored motor and driver.
     explicit frmList2(frmList1* list1);
 
-    QLabel* lblMotor = nullptr;
-    QLineEdit* txtMotor = nullptr;
-    GridView* vsfDrvList = nullptr;
-    QPushButton* cmdDecide = nullptr;
-    QPushButton* cmdReverse = nullptr;
-    QPushButton* CmdCancel = nullptr;
-
     // Takes the motor that "Next >" chose: lblMotor and txtMotor show it.
     void Motor_Take(const DriverPage& chosen);
     void Form_Activate();
@@ -41,10 +34,18 @@ signals:
     void decided();
 
 protected:
-    void changeEvent(QEvent* event) override;
+    // Closing the page closes the wizard.
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    QLabel* lblMotor = nullptr;
+    QLineEdit* txtMotor = nullptr;
+    GridView* vsfDrvList = nullptr;
+    QPushButton* cmdDecide = nullptr;
+    QPushButton* cmdReverse = nullptr;
+    QPushButton* CmdCancel = nullptr;
+
     DriverPage page_;
     frmList1* list1_;
     // The activation that follows the message of a failed rebuild does not

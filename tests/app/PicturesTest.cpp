@@ -1,3 +1,4 @@
+// The pictures the program carries (data/app/BMP_data): every component and machine picture is an SVG with a viewBox.
 #include <gtest/gtest.h>
 
 #include <fstream>

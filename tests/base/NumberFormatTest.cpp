@@ -1,3 +1,4 @@
+// Formatting numbers by mask and as NumberText (base/NumberFormat): rounding, optional decimals, exponents.
 #include <gtest/gtest.h>
 
 #include "base/NumberFormat.h"

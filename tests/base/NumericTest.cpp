@@ -1,3 +1,4 @@
+// Reading numbers from text (base/Numeric): IsNumeric, Val whatever the locale, ties to even and CInt.
 #include <gtest/gtest.h>
 
 #include <limits>

@@ -27,6 +27,22 @@ protected:
         ElementCount = MecaTemplateCount[number];
     }
 
+    // The horizontal ballscrew template (motor, reducer 1:1, H ballscrew, H
+    // linear) with a chosen motor, its ratings, and a pattern up to 3000 r/min
+    // in 0.1 s, 0.5 s at speed, down in 0.1 s and 0.3 s at rest.
+    static void BuildSizedBallscrew() {
+        Build(1);
+        MotorSelected = 1;
+        SelectedJm = 0.00003;  // rotor and brake
+        SelectedJb = 0.00001;
+        Element[0].Item[5].ItemText = "30";
+        ResultValues[Rate] = {0.64, 0.42, 3000, 0.00002, 10, 5, 0.64};
+        Row(Patarn, 1, 0.1, 3000);
+        Row(Patarn, 2, 0.5, 3000);
+        Row(Patarn, 3, 0.1, 0);
+        Row(Patarn, 4, 0.3, 0);
+    }
+
     static double& P(int16_t slot, int row) { return Element[slot].Item[row].Value; }
 
     // A complete row: DeltaTime in s, Speed in r/min.

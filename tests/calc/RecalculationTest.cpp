@@ -11,18 +11,8 @@ class CalcRecalculation : public CalcTest {
 protected:
     void SetUp() override {
         CalcTest::SetUp();
-        Build(1);  // motor, reducer 1:1, H ballscrew, H linear
-        MotorSelected = 1;
-        SelectedJm = 0.00003;  // rotor and brake
-        SelectedJb = 0.00001;
+        BuildSizedBallscrew();
         SelectedMotorMass = 1;
-        Element[0].Item[5].ItemText = "30";
-        ResultValues[Rate] = {0.64, 0.42, 3000, 0.00002, 10, 5, 0.64};
-        // Up to 3000 r/min in 0.1 s, 0.5 s at speed, down in 0.1 s, 0.3 s at rest.
-        Row(Patarn, 1, 0.1, 3000);
-        Row(Patarn, 2, 0.5, 3000);
-        Row(Patarn, 3, 0.1, 0);
-        Row(Patarn, 4, 0.3, 0);
         PatternRowCount = 4;
         Culcurate_All();
     }

@@ -48,6 +48,25 @@ protected:
         State_Reset();
         return path;
     }
+
+    // A named and changed document of three elements, before the question is answered.
+    static void PrepareAChangedDocument() {
+        Main_Prepare("");
+        ElementCount = 3;
+        Element[1].ElementType = 1;
+        DocumentNamed = 1;
+        DirtyFlag = 1;
+    }
+
+    // The motor alone in a new, unchanged document, the question's answer taken.
+    static void ExpectTheMotorAlone() {
+        EXPECT_EQ(ElementCount, 1);
+        EXPECT_EQ(Element[0].ElementType, 51);
+        EXPECT_EQ(Element[1].ElementType, 50);
+        EXPECT_EQ(DocumentNamed, 0);
+        EXPECT_EQ(DirtyFlag, 0);
+        EXPECT_EQ(MecaResult, 0);
+    }
 };
 
 TEST_F(ActivationTest, CommandLineOfSeveralWordsIsOneFileName) {
@@ -121,22 +140,13 @@ TEST_F(ActivationTest, CancelLeavesTheMotorAlone) {
     MecaTemplateNo = 0;
     SeamLog log;
     Main_Activate(log.Seams());
-    EXPECT_EQ(ElementCount, 1);
-    EXPECT_EQ(Element[0].ElementType, 51);
-    EXPECT_EQ(Element[1].ElementType, 50);
-    EXPECT_EQ(DocumentNamed, 0);
-    EXPECT_EQ(DirtyFlag, 0);
-    EXPECT_EQ(MecaResult, 0);
+    ExpectTheMotorAlone();
     EXPECT_EQ(log.calls, std::vector<std::string>{"setUnitRow"});
     EXPECT_FALSE(log.Called("loadFile"));
 }
 
 TEST_F(ActivationTest, CancelChangesNothingElse) {
-    Main_Prepare("");
-    ElementCount = 3;
-    Element[1].ElementType = 1;
-    DocumentNamed = 1;
-    DirtyFlag = 1;
+    PrepareAChangedDocument();
     MecaResult = 3;
     SeamLog log;
     Main_Activate(log.Seams());
@@ -148,21 +158,12 @@ TEST_F(ActivationTest, CancelChangesNothingElse) {
 }
 
 TEST_F(ActivationTest, OkWithoutTemplateGivesTheSameChainAsCancel) {
-    Main_Prepare("");
-    ElementCount = 3;
-    Element[1].ElementType = 1;
-    DocumentNamed = 1;
-    DirtyFlag = 1;
+    PrepareAChangedDocument();
     MecaResult = 2;
     MecaTemplateNo = 0;
     SeamLog log;
     Main_Activate(log.Seams());
-    EXPECT_EQ(ElementCount, 1);
-    EXPECT_EQ(Element[0].ElementType, 51);
-    EXPECT_EQ(Element[1].ElementType, 50);
-    EXPECT_EQ(DocumentNamed, 0);
-    EXPECT_EQ(DirtyFlag, 0);
-    EXPECT_EQ(MecaResult, 0);
+    ExpectTheMotorAlone();
     EXPECT_FALSE(log.Called("setTitle"));
     EXPECT_FALSE(log.Called("loadFile"));
     EXPECT_TRUE(log.Called("setUnitRow"));

@@ -1,3 +1,4 @@
+// Save Results (commands/ResultsCommand): the refusal without components, the dialog cancelled, the name as given.
 #include <gtest/gtest.h>
 
 #include <filesystem>

@@ -1,3 +1,4 @@
+// Taking unit picks on (commands/UnitCommands): the unit file, the item rows and the sizing values in the new units.
 #include <gtest/gtest.h>
 
 #include "calc/mdlCulcurate.h"

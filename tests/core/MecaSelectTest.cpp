@@ -1,3 +1,4 @@
+// The mechanical system question without its window (core/MecaSelect): the arrows, OK, Cancel and the load.
 #include <gtest/gtest.h>
 
 #include "core/MecaSelect.h"

@@ -28,16 +28,7 @@ protected:
     // A sized horizontal ballscrew with a chosen motor and a trapezoid with a rest row.
     void SetUp() override {
         CalcTest::SetUp();
-        Build(1);
-        MotorSelected = 1;
-        SelectedJm = 0.00003;
-        SelectedJb = 0.00001;
-        Element[0].Item[5].ItemText = "30";
-        ResultValues[Rate] = {0.64, 0.42, 3000, 0.00002, 10, 5, 0.64};
-        Row(Patarn, 1, 0.1, 3000);
-        Row(Patarn, 2, 0.5, 3000);
-        Row(Patarn, 3, 0.1, 0);
-        Row(Patarn, 4, 0.3, 0);
+        BuildSizedBallscrew();
         Culcurate_All();  // once, so that every lazily built table exists
     }
 };

@@ -1,3 +1,4 @@
+// The geometry of the two pattern graphs (pattern/Graph): the scales, the zero line and the curves of the rows.
 #include <gtest/gtest.h>
 
 #include "pattern/Graph.h"

@@ -1,3 +1,4 @@
+// The texts of the pattern and results grids (pattern/GridText): headers in the picked units, rows, marks, colours.
 #include <gtest/gtest.h>
 
 #include "core/Tables.h"

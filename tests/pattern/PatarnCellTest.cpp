@@ -1,3 +1,4 @@
+// An edit of a pattern cell (pattern/PatarnCell): which cells edit, the keys, the cut and the checks of the values.
 #include <gtest/gtest.h>
 
 #include "core/Tables.h"

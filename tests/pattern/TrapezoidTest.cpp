@@ -1,3 +1,4 @@
+// The trapezoid builder without its window (pattern/Trapezoid): the rows of a move, its checks and its ranges.
 #include <gtest/gtest.h>
 
 #include <cmath>

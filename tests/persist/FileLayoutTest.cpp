@@ -1,3 +1,4 @@
+// The layout of a saved document (persist): the version, size and field offsets, the golden file, the reader chosen.
 #include <gtest/gtest.h>
 
 #include "base/Version.h"

@@ -1,3 +1,4 @@
+// Opening a document (persist/FileLoad): the file becomes the document and what follows from it is rebuilt.
 #include <gtest/gtest.h>
 
 #include <string>

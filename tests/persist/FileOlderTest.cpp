@@ -1,3 +1,4 @@
+// Reading a document of the older layout (persist/FileReadOlder): the elements, rows and texts taken over.
 #include <gtest/gtest.h>
 
 #include "core/Tables.h"

@@ -1,3 +1,4 @@
+// Saving a document (persist/FileSave): the bytes of the layout, the replaced file and the failed writes.
 #include <gtest/gtest.h>
 
 #include <sys/resource.h>

@@ -1,3 +1,4 @@
+// The administrator lines (persist/MtrUser): MtrUser.dat read, cleaned and written, and the document's fallback.
 #include <gtest/gtest.h>
 
 #include "base/RuntimeError.h"

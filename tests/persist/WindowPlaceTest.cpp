@@ -1,3 +1,4 @@
+// Where the windows open (persist/WindowPlace): stored positions, the defaults and positions off the screen.
 #include <gtest/gtest.h>
 
 #include <map>

@@ -1,3 +1,4 @@
+// The general parameters of the results file (reports/GeneralParam): the formulas of Param.ini and their values.
 #include <gtest/gtest.h>
 
 #include "base/NumberFormat.h"

@@ -1,3 +1,4 @@
+// Reading Param.ini (reports/ParamIni): its place, keys and sections without regard to case, the defaults.
 #include <gtest/gtest.h>
 
 #include "reports/ParamIni.h"

@@ -1,3 +1,4 @@
+// The results file (reports): the motor line, the components and their rows, the inertia, torque and regeneration.
 #include <gtest/gtest.h>
 
 #include <filesystem>

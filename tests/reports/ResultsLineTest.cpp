@@ -1,3 +1,4 @@
+// The pieces of a results line (reports/ResultsLine, ResultsText): padding to a column and the unit texts.
 #include <gtest/gtest.h>
 
 #include <filesystem>

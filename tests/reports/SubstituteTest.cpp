@@ -1,3 +1,4 @@
+// The names put into a formula of Param.ini (reports/Substitute): constants, masses and inertias.
 #include <gtest/gtest.h>
 
 #include "core/Tables.h"

@@ -1,3 +1,4 @@
+// The catalogue the program carries (Series.db): every query runs and every motor and its drivers are judged.
 #include <gtest/gtest.h>
 
 #include <filesystem>

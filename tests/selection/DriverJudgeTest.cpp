@@ -1,3 +1,4 @@
+// The judgement of a driver (selection/DriverJudge): regeneration against its limits, flags, colours, driver types.
 #include "selection/DriverJudge.h"
 
 #include <gtest/gtest.h>

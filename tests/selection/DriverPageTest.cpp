@@ -1,3 +1,4 @@
+// The driver page without its window (selection/DriverPage): the drivers of the motor, their verdicts, Finish.
 #include "selection/DriverPage.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The judgement of a motor (selection/MotorJudge): the bands of the torques, speed and inertia, and the marks.
 #include "selection/MotorJudge.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The motor page without its window (selection/MotorPage): series, groups, motors, the judgement and Next.
 #include "selection/MotorPage.h"
 
 #include <gtest/gtest.h>

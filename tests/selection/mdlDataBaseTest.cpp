@@ -1,3 +1,4 @@
+// The catalogue database (selection/mdlDataBase): the connection, its messages, the lists it fills and the queries.
 #include "selection/mdlDataBase.h"
 
 #include <gtest/gtest.h>

@@ -4,18 +4,24 @@
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFrame>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTest>
 #include <QTimer>
 #include <filesystem>
+#include <functional>
 #include <gtest/gtest.h>
 
 #include "core/Tables.h"
 #include "pattern/ui/PatarnGrid.h"
+#include "tests/support/Controls.h"
 #include "tests/support/TestState.h"
 #include "common/ui/FileDialog.h"
+#include "workbench/frmItem.h"
 #include "workbench/frmMain.h"
 #include "workbench/frmMeca.h"
 
@@ -33,21 +39,47 @@ protected:
         StateTest::TearDown();
     }
 
-    // Shows the start-up question and answers it with a picture and OK.
-    void StartWith(frmMain& w, int picture) {
+    // Shows the start-up question; answer runs while it waits.
+    static void StartAnswering(frmMain& w, std::function<void(frmMeca*)> answer) {
         w.show();
-        QTimer::singleShot(0, [&w, picture] {
-            frmMeca* m = w.Meca();
-            EXPECT_TRUE(m->isVisible());
-            QTest::mouseClick(m->picMachine[picture], Qt::LeftButton);
-            m->cmdOK->click();
-        });
+        QTimer::singleShot(0, [&w, answer = std::move(answer)] { answer(w.Meca()); });
         w.Start();
+    }
+
+    // Shows the start-up question and answers it with a picture and OK.
+    static void StartWith(frmMain& w, int picture) {
+        StartAnswering(w, [picture](frmMeca* m) {
+            EXPECT_TRUE(m->isVisible());
+            QTest::mouseClick(Ctl<QFrame>(m, "picMachine", picture), Qt::LeftButton);
+            Ctl<QPushButton>(m, "cmdOK")->click();
+        });
+    }
+
+    // The motor alone, with the palette open as after a manual start.
+    static void StartManual(frmMain& w) {
+        StartWith(w, 0);
+        ASSERT_EQ(ElementCount, 1);
+        ASSERT_TRUE(w.ItemWindow()->isVisible());
+    }
+
+    // A double click on a cell of a tab of the palette.
+    static void DoubleClick(frmItem* palette, int tab, int cell) {
+        Ctl<QTabBar>(palette, "TabStrip1")->setCurrentIndex(tab - 1);
+        QTest::mouseDClick(Ctl<QLabel>(palette, "picElement", cell), Qt::LeftButton);
+        QApplication::processEvents();
+    }
+
+    // The caption under a slot of the strip.
+    static QString SlotCaption(frmMain& w, int slot) { return Ctl<QLabel>(&w, "lblElement", slot)->text(); }
+
+    // A click on a slot of the strip.
+    static void ClickSlot(frmMain& w, int slot) {
+        QTest::mouseClick(Ctl<QLabel>(&w, "imgElement", slot), Qt::LeftButton);
     }
 
     // Types a text into a cell of the pattern grid and commits it with Enter.
     static void Type(frmMain& w, int gridRow, int col, const QString& text) {
-        PatarnGrid* g = w.vsfPatarn;
+        auto* g = Ctl<PatarnGrid>(&w, "vsfPatarn");
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // the previous editor goes
         g->setCurrentCell(gridRow - 2, col);
         g->editItem(g->item(gridRow - 2, col));
@@ -59,13 +91,16 @@ protected:
         QApplication::processEvents();
     }
 
-    // A drag from another window enters the slot and is dropped there.
-    static void DropOn(QWidget* target, QMimeData& data) {
+    // A drag from another window enters a slot of the strip and is dropped there.
+    static void DropOn(frmMain& w, int slot, QMimeData& data) {
+        auto* target = Ctl<QLabel>(&w, "imgElement", slot);
         QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(target, &enter);
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(target, &drop);
     }
 
-    static QString Cell(frmMain& w, int gridRow, int col) { return w.vsfPatarn->item(gridRow - 2, col)->text(); }
+    static QString Cell(frmMain& w, int gridRow, int col) {
+        return Ctl<PatarnGrid>(&w, "vsfPatarn")->item(gridRow - 2, col)->text();
+    }
 };

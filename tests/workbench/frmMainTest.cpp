@@ -1,13 +1,13 @@
-// The main window (frmMain) driven as a user drives it: the start, the strip, the pattern grid, the menus and the file commands.
+// The main window (frmMain) as a user drives it: the start, the strip, the pattern grid, the menus and the files.
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTableWidget>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -15,75 +15,30 @@
 #include <filesystem>
 
 #include "core/Catalogue.h"
-#include "core/Tables.h"
 #include "core/PatarnRows.h"
+#include "core/Tables.h"
 #include "pattern/ui/PatarnGrid.h"
 #include "pattern/ui/PatternGraph.h"
-#include "tests/support/WorkbenchFixture.h"
+#include "tests/support/Controls.h"
 #include "tests/support/TestState.h"
+#include "tests/support/WorkbenchFixture.h"
 #include "workbench/ChainStrip.h"
 #include "common/ui/FileDialog.h"
-#include "workbench/ResultGrid.h"
+#include "workbench/frmInfobox.h"
+#include "workbench/frmItem.h"
 #include "workbench/frmMain.h"
-#include "workbench/frmMeca.h"
-
 
 TEST_F(WorkbenchTest, StartWithoutAFileShowsTheQuestionAndBuildsThePickedMachine) {
     frmMain w;
     StartWith(w, 1);
     EXPECT_EQ(ElementCount, 4);
-    EXPECT_EQ(w.strip->lblElement[0]->text(), "Motor");
-    EXPECT_EQ(w.strip->lblElement[1]->text(), "Reduct. gear");
-    EXPECT_EQ(w.strip->lblElement[2]->text(), "H ballscrew");
-    EXPECT_EQ(w.strip->lblElement[3]->text(), "H linear");
-    EXPECT_EQ(w.strip->lblElement[4]->text(), "");
+    EXPECT_EQ(SlotCaption(w, 0), "Motor");
+    EXPECT_EQ(SlotCaption(w, 1), "Reduct. gear");
+    EXPECT_EQ(SlotCaption(w, 2), "H ballscrew");
+    EXPECT_EQ(SlotCaption(w, 3), "H linear");
+    EXPECT_EQ(SlotCaption(w, 4), "");
     EXPECT_EQ(w.windowTitle(), "Torvane-[Horizontal ballscrew]");
     EXPECT_EQ(DocumentNamed, 0);
-}
-
-TEST_F(WorkbenchTest, CancelAtStartLeavesTheMotorAlone) {
-    frmMain w;
-    w.show();
-    QTimer::singleShot(0, [&w] { w.Meca()->CmdCancel->click(); });
-    w.Start();
-    EXPECT_EQ(ElementCount, 1);
-    EXPECT_EQ(DocumentNamed, 0);
-    EXPECT_EQ(DirtyFlag, 0);
-    EXPECT_EQ(MecaResult, 0);
-}
-
-TEST_F(WorkbenchTest, EnterOnAnEmptyPictureKeepsTheQuestionOpen) {
-    frmMain w;
-    w.show();
-    QTimer::singleShot(0, [&w] {
-        frmMeca* m = w.Meca();
-        m->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(m));
-        m->picMachine[10]->setFocus();
-        QTest::keyClick(m->picMachine[10], Qt::Key_Return);
-        EXPECT_EQ(MecaResult, 1);
-        EXPECT_TRUE(m->isVisible());
-        QTest::keyClick(m->picMachine[10], Qt::Key_Escape);
-    });
-    w.Start();
-    EXPECT_EQ(ElementCount, 1);
-}
-
-TEST_F(WorkbenchTest, ArrowKeysWrapOverThePictures) {
-    frmMain w;
-    w.show();
-    QTimer::singleShot(0, [&w] {
-        frmMeca* m = w.Meca();
-        m->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(m));
-        m->picMachine[2]->setFocus();
-        QTest::keyClick(m->picMachine[2], Qt::Key_Up);
-        EXPECT_EQ(MecaTemplateNo, 10);
-        QTest::keyClick(m->picMachine[10], Qt::Key_Down);
-        EXPECT_EQ(MecaTemplateNo, 2);
-        m->CmdCancel->click();
-    });
-    w.Start();
 }
 
 TEST_F(WorkbenchTest, TypingThreeRowsFillsTheGridTheGraphsAndTheResults) {
@@ -101,10 +56,11 @@ TEST_F(WorkbenchTest, TypingThreeRowsFillsTheGridTheGraphsAndTheResults) {
     EXPECT_EQ(Cell(w, 4, 1), "0.700");
     EXPECT_EQ(Cell(w, 3, 3), "3000.0");
     EXPECT_FALSE(Cell(w, 2, 6).isEmpty());
-    EXPECT_FALSE(w.picCirclePatarn->Drawing().curve.empty());
-    EXPECT_EQ(w.picTorquePatarn->Drawing().curve.size(), 6u);
-    EXPECT_FALSE(w.vsfMotor->item(0, 2)->text().isEmpty());
-    EXPECT_EQ(w.vsfMotor->item(4, 2)->text(), "3000");
+    EXPECT_FALSE(Ctl<PatternGraph>(&w, "picCirclePatarn")->Drawing().curve.empty());
+    EXPECT_EQ(Ctl<PatternGraph>(&w, "picTorquePatarn")->Drawing().curve.size(), 6u);
+    auto* vsfMotor = Ctl<QTableWidget>(&w, "vsfMotor");
+    EXPECT_FALSE(vsfMotor->item(0, 2)->text().isEmpty());
+    EXPECT_EQ(vsfMotor->item(4, 2)->text(), "3000");
     EXPECT_EQ(DirtyFlag, 1);
 }
 
@@ -159,12 +115,13 @@ TEST_F(WorkbenchTest, DeletingTheOnlyComponentScrollsHomeAndSelectsNothing) {
     Item_Defaults(5, Element[1].Item);
     ElementCount = 2;
     SelectedElement = 1;
-    w.strip->HScroll1->setValue(1);
+    auto* HScroll1 = Ctl<QScrollBar>(&w, "HScroll1");
+    HScroll1->setValue(1);
     msg.Answer(MsgAnswer::OK);
     w.mnuDelete1_Click();
     EXPECT_EQ(ElementCount, 1);
     EXPECT_EQ(SelectedElement, 0);
-    EXPECT_EQ(w.strip->HScroll1->value(), 0);
+    EXPECT_EQ(HScroll1->value(), 0);
     EXPECT_EQ(msg.Seen()[0].text, "Delete?");
 }
 
@@ -181,28 +138,30 @@ TEST_F(WorkbenchTest, LeftArrowOnTheFirstComponentOnlyScrollsHome) {
     frmMain w;
     StartWith(w, 1);
     SelectedElement = 1;
-    w.strip->HScroll1->setValue(3);
-    w.Picture1->setFocus();
-    QTest::keyClick(w.Picture1, Qt::Key_Left);
+    auto* HScroll1 = Ctl<QScrollBar>(&w, "HScroll1");
+    auto* Picture1 = Ctl<QWidget>(&w, "Picture1");
+    HScroll1->setValue(3);
+    Picture1->setFocus();
+    QTest::keyClick(Picture1, Qt::Key_Left);
     EXPECT_EQ(SelectedElement, 1);
-    EXPECT_EQ(w.strip->HScroll1->value(), 0);
-    QTest::keyClick(w.Picture1, Qt::Key_Right);
+    EXPECT_EQ(HScroll1->value(), 0);
+    QTest::keyClick(Picture1, Qt::Key_Right);
     EXPECT_EQ(SelectedElement, 2);
 }
 
 TEST_F(WorkbenchTest, RightButtonOnAnEmptySlotShowsNoMenu) {
     frmMain w;
     StartWith(w, 1);
-    QTest::mouseClick(w.strip->imgElement[5], Qt::RightButton);
-    EXPECT_FALSE(w.mnuRight1->isVisible());
+    QTest::mouseClick(Ctl<QLabel>(&w, "imgElement", 5), Qt::RightButton);
+    EXPECT_FALSE(Ctl<QMenu>(&w, "mnuRight1")->isVisible());
 }
 
 TEST_F(WorkbenchTest, ClickingASlotSelectsItsElementButNeverTheMotor) {
     frmMain w;
     StartWith(w, 1);
-    QTest::mouseClick(w.strip->imgElement[2], Qt::LeftButton);
+    ClickSlot(w, 2);
     EXPECT_EQ(SelectedElement, 2);
-    QTest::mouseClick(w.strip->imgElement[0], Qt::LeftButton);
+    ClickSlot(w, 0);
     EXPECT_EQ(SelectedElement, 0);
 }
 
@@ -224,20 +183,46 @@ TEST_F(WorkbenchTest, ADropOfATypeCodeFromAnySourcePlacesTheComponent) {
     StartWith(w, 1);
     QMimeData data;
     data.setData(kTypeMime, "2");
-    DropOn(w.strip->imgElement[4], data);
+    DropOn(w, 4, data);
     EXPECT_EQ(ElementCount, 4);  // a gear cannot follow a linear load: refused
     ASSERT_FALSE(msg.Seen().empty());
     EXPECT_EQ(msg.Seen().back().text, "Cannot insert/overwrite.");
     msg.Clear();
     data.setData(kTypeMime, "2");
     msg.Answer(MsgAnswer::Insert);
-    DropOn(w.strip->imgElement[1], data);
+    DropOn(w, 1, data);
     EXPECT_EQ(ElementCount, 5);
     EXPECT_EQ(Element[1].ElementType, 2);
     EXPECT_EQ(Element[2].ElementType, 1);
-    EXPECT_EQ(w.strip->lblElement[1]->text(), "Gear");
+    EXPECT_EQ(SlotCaption(w, 1), "Gear");
     EXPECT_EQ(DirtyFlag, 1);
     DirtyFlag = 0;
+}
+
+TEST_F(WorkbenchTest, ADragOntoTheStripOverwritesWhenTheUserSaysOverwrite) {
+    frmMain w;
+    StartWith(w, 1);
+    QMimeData data;
+    data.setData(kTypeMime, "2");
+    msg.Answer(MsgAnswer::Overwrite);
+    DropOn(w, 1, data);
+    EXPECT_EQ(ElementCount, 4);
+    EXPECT_EQ(Element[1].ElementType, 2);
+    EXPECT_EQ(Element[2].ElementType, 11);
+    DirtyFlag = 0;
+}
+
+TEST_F(WorkbenchTest, TheFloatingWindowsFollowTheMainWindowIntoTheTaskbar) {
+    frmMain w;
+    StartManual(w);
+    w.showMinimized();
+    QApplication::processEvents();
+    EXPECT_TRUE(w.ItemWindow()->isMinimized());
+    EXPECT_TRUE(w.Infobox()->isMinimized());
+    w.showNormal();
+    QApplication::processEvents();
+    EXPECT_FALSE(w.ItemWindow()->isMinimized());
+    EXPECT_FALSE(w.Infobox()->isMinimized());
 }
 
 TEST_F(WorkbenchTest, SaveAsNewAndOpenRoundTripThroughTheMenus) {
@@ -251,7 +236,7 @@ TEST_F(WorkbenchTest, SaveAsNewAndOpenRoundTripThroughTheMenus) {
     EXPECT_EQ(DirtyFlag, 0);
     EXPECT_EQ(w.windowTitle(), "Torvane-[round.AP2]");
 
-    QTimer::singleShot(0, [&w] { w.Meca()->CmdCancel->click(); });
+    QTimer::singleShot(0, [&w] { Ctl<QPushButton>(w.Meca(), "CmdCancel")->click(); });
     w.Action("mnuFileNew")->trigger();
     EXPECT_EQ(ElementCount, 4);  // cancelling the question changes nothing
     Patarn_ClearRow(Patarn, 1);
@@ -262,7 +247,7 @@ TEST_F(WorkbenchTest, SaveAsNewAndOpenRoundTripThroughTheMenus) {
     EXPECT_EQ(ElementCount, 4);
     EXPECT_EQ(PatternRowCount, 1);
     EXPECT_EQ(DocumentNamed, 1);
-    EXPECT_EQ(w.strip->lblElement[2]->text(), "H ballscrew");
+    EXPECT_EQ(SlotCaption(w, 2), "H ballscrew");
     EXPECT_EQ(Cell(w, 2, 1), "0.100");
 }
 
@@ -301,11 +286,12 @@ TEST_F(WorkbenchTest, DeleteOnAnEmptyRowRemovesItFromTheTableButLeavesTheGridUnt
     Type(w, 2, 1, "0.1");
     Type(w, 2, 3, "3000");
     Patarn[3] = Patarn[1];  // record 2 stays empty, record 3 is complete
-    w.vsfPatarn->Disp_Patarn();
+    auto* vsfPatarn = Ctl<PatarnGrid>(&w, "vsfPatarn");
+    vsfPatarn->Disp_Patarn();
     const QString shownBelow = Cell(w, 4, 3);
     ASSERT_FALSE(shownBelow.isEmpty());
-    w.vsfPatarn->setCurrentCell(1, 1);  // grid row 3, the empty record 2
-    QTest::keyClick(w.vsfPatarn, Qt::Key_Delete);
+    vsfPatarn->setCurrentCell(1, 1);  // grid row 3, the empty record 2
+    QTest::keyClick(vsfPatarn, Qt::Key_Delete);
     EXPECT_EQ(Patarn[2].Speed, 3000);  // record 3 moved up
     EXPECT_EQ(Patarn[3].RowState, 0);
     EXPECT_EQ(Cell(w, 3, 3), "");            // the grid still shows the old rows
@@ -319,8 +305,8 @@ TEST_F(WorkbenchTest, InsertOpensABlankRowAndLeavesTheDocumentUnchanged) {
     Type(w, 2, 2, "0.1");
     Type(w, 2, 3, "3000");
     DirtyFlag = 0;
-    w.vsfPatarn->setCurrentCell(0, 1);
-    w.mnuRight2->findChild<QAction*>("mnuInsert")->trigger();
+    Ctl<PatarnGrid>(&w, "vsfPatarn")->setCurrentCell(0, 1);
+    Ctl<QMenu>(&w, "mnuRight2")->findChild<QAction*>("mnuInsert")->trigger();
     EXPECT_EQ(Patarn[1].RowState, 0);
     EXPECT_EQ(Patarn[2].Speed, 3000);
     EXPECT_EQ(Cell(w, 2, 3), "");

@@ -12,6 +12,7 @@
 
 #include "core/Tables.h"
 #include "persist/mdlFile.h"
+#include "tests/support/Controls.h"
 #include "tests/support/TestState.h"
 
 class PrintWindowTest : public StateTest {
@@ -36,14 +37,6 @@ protected:
     static void NoPrintServer() {
         setenv("CUPS_SERVER", "localhost:9", 1);
         cupsSetServer(nullptr);
-    }
-
-    // A control of a window, by its name; the test fails when it is missing.
-    template <typename T>
-    static T* Ctl(QObject* window, const char* name) {
-        T* control = window->findChild<T*>(name);
-        EXPECT_NE(control, nullptr) << name;
-        return control;
     }
 
     // Was the message shown, under that title?
