@@ -14,7 +14,7 @@
 #include "core/Tables.h"
 #include "tests/support/Controls.h"
 #include "tests/support/WizardFixture.h"
-#include "workbench/FileDialog.h"
+#include "common/ui/FileDialog.h"
 
 namespace {
 
