@@ -4,7 +4,9 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
@@ -40,4 +42,17 @@ void PrinterChoice_Properties(QWidget* parent, const QComboBox* box, const char*
     layout->addWidget(buttons);
     dialog.resize(420, 320);
     dialog.exec();
+}
+
+PrintButtons PrinterChoice_Buttons(QWidget* dialog, const char* printCaption) {
+    PrintButtons b{new QPushButton("Export PDF...", dialog), new QPushButton(printCaption, dialog),
+                   new QPushButton("Cancel", dialog), new QHBoxLayout};
+    b.CmdExport->setObjectName("CmdExport");
+    b.CmdPrint->setObjectName("CmdPrint");
+    b.CmdCancel->setObjectName("CmdCancel");
+    b.row->addWidget(b.CmdExport);
+    b.row->addStretch();
+    b.row->addWidget(b.CmdPrint);
+    b.row->addWidget(b.CmdCancel);
+    return b;
 }

@@ -49,20 +49,13 @@ frmListPrint::frmListPrint(ListSheet sheet, QWidget* parent) : QDialog(parent), 
     grid->addWidget(LblSettings, 1, 1, 1, 2);
     grid->setColumnStretch(1, 1);
 
-    CmdExport = new QPushButton("Export PDF...", this);
-    CmdExport->setObjectName("CmdExport");
-    CmdPrint = new QPushButton("Print (&P)", this);
-    CmdPrint->setObjectName("CmdPrint");
-    CmdCancel = new QPushButton("Cancel", this);
-    CmdCancel->setObjectName("CmdCancel");
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(CmdExport);
-    buttons->addStretch();
-    buttons->addWidget(CmdPrint);
-    buttons->addWidget(CmdCancel);
+    const PrintButtons buttons = PrinterChoice_Buttons(this, "Print (&P)");
+    CmdExport = buttons.CmdExport;
+    CmdPrint = buttons.CmdPrint;
+    CmdCancel = buttons.CmdCancel;
     auto* main = new QVBoxLayout(this);
     main->addWidget(frame);
-    main->addLayout(buttons);
+    main->addLayout(buttons.row);
 
     for (const std::string& name : Printer_List()) CboPrinter->addItem(QString::fromStdString(name));
     connect(CmdPropaty, &QPushButton::clicked, this, &frmListPrint::CmdPropaty_Click);

@@ -120,22 +120,15 @@ frmPrint::frmPrint(QWidget* parent) : QDialog(parent) {
     SSTab1->addTab(BuildComments(), "Comments");
     SSTab1->addTab(BuildItems(), "Items");
 
-    CmdExport = new QPushButton("Export PDF...", this);
-    CmdExport->setObjectName("CmdExport");
-    CmdPrint = new QPushButton("Print(&P)", this);
-    CmdPrint->setObjectName("CmdPrint");
-    CmdCancel = new QPushButton("Cancel", this);
-    CmdCancel->setObjectName("CmdCancel");
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(CmdExport);
-    buttons->addStretch();
-    buttons->addWidget(CmdPrint);
-    buttons->addWidget(CmdCancel);
+    const PrintButtons buttons = PrinterChoice_Buttons(this, "Print(&P)");
+    CmdExport = buttons.CmdExport;
+    CmdPrint = buttons.CmdPrint;
+    CmdCancel = buttons.CmdCancel;
 
     auto* main = new QVBoxLayout(this);
     main->addLayout(printer);
     main->addWidget(SSTab1, 1);
-    main->addLayout(buttons);
+    main->addLayout(buttons.row);
 
     connect(CmdPropaty, &QPushButton::clicked, this, &frmPrint::CmdPropaty_Click);
     connect(CmdPrint, &QPushButton::clicked, this, &frmPrint::CmdPrint_Click);

@@ -13,33 +13,10 @@
 
 #include "commands/Activation.h"
 #include "core/Tables.h"
+#include "tests/support/CliRun.h"
 #include "tests/support/TestState.h"
 
 namespace {
-
-struct CliRun {
-    int code = -1;
-    std::string out, err;
-};
-
-// Quotes a word for the shell.
-std::string Quote(const std::string& s) {
-    std::string q = "'";
-    for (const char c : s) q += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    return q + "'";
-}
-
-CliRun RunCli(const TempDir& dir, const std::string& args) {
-    const std::string out = dir.File("stdout.txt"), err = dir.File("stderr.txt");
-    const std::string command = "TORVANE_APP_PATH=" + Quote(dir.Path()) + " " + Quote(TORVANE_CLI) + " " + args +
-                                " >" + Quote(out) + " 2>" + Quote(err) + " </dev/null";
-    const int status = std::system(command.c_str());
-    CliRun r;
-    r.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    r.out = ReadFile(out);
-    r.err = ReadFile(err);
-    return r;
-}
 
 std::vector<std::string> Lines(const std::string& text) {
     std::vector<std::string> lines;

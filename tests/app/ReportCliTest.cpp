@@ -8,22 +8,12 @@
 #include <regex>
 #include <string>
 
+#include "tests/support/CliRun.h"
 #include "tests/support/TestState.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-struct CliRun {
-    int code = -1;
-    std::string out, err;
-};
-
-std::string Quote(const std::string& s) {
-    std::string q = "'";
-    for (const char c : s) q += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    return q + "'";
-}
 
 const std::string kExample = TORVANE_SOURCE_DIR "/tests/data/horizontal-ballscrew.AP2";
 const std::string kPushing = TORVANE_SOURCE_DIR "/tests/data/ballscrew-pushing-600N.AP2";
@@ -40,17 +30,7 @@ protected:
         fs::copy_file(build / "Series.db", appDir.File("Series.db"));
     }
 
-    CliRun Run(const std::string& args) {
-        const std::string out = appDir.File("stdout.txt"), err = appDir.File("stderr.txt");
-        const std::string command = "TORVANE_APP_PATH=" + Quote(appDir.Path()) + " " + Quote(TORVANE_CLI) + " " + args +
-                                    " >" + Quote(out) + " 2>" + Quote(err) + " </dev/null";
-        const int status = std::system(command.c_str());
-        CliRun r;
-        r.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        r.out = ReadFile(out);
-        r.err = ReadFile(err);
-        return r;
-    }
+    CliRun Run(const std::string& args) const { return RunCli(appDir, args); }
 
     static int Pages(const std::string& pdf) {
         FILE* pipe = popen(("pdfinfo " + Quote(pdf) + " 2>/dev/null").c_str(), "r");
