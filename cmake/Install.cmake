@@ -38,7 +38,6 @@ motor and the motion it must follow, it computes the load inertia, the torque
 and regeneration of every interval and the sizing values, and judges every
 motor and driver of a catalogue against them. It comes as the window program
 torvane and the command line tool torvane-cli.")
-set(CPACK_PACKAGE_INSTALL_DIRECTORY torvane)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
