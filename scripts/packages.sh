@@ -1,9 +1,11 @@
-# Shared by run.sh and test.sh: installs the Debian packages the build needs,
+# Shared by run.sh and test.sh: installs the Debian packages the build, the
+# Debian package (dpkg-dev, file) and the tests of the installed files need,
 # skipping apt entirely when all are present.
 TORVANE_PACKAGES="build-essential cmake ninja-build ccache pkg-config \
 libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev \
 qt6-base-dev qt6-base-dev-tools qt6-svg-dev libgl-dev libcups2-dev libinih-dev \
-libpugixml-dev librsvg2-dev libcairo2-dev fonts-dejavu-core cups-daemon cups-client poppler-utils"
+libpugixml-dev librsvg2-dev libcairo2-dev fonts-dejavu-core cups-daemon cups-client poppler-utils \
+dpkg-dev file desktop-file-utils appstream libxml2-utils shared-mime-info groff-base"
 
 torvane_install_packages() {
     local missing=()
