@@ -2,7 +2,9 @@
 #include "commands/ListPrintCommands.h"
 
 #include "base/Cp1252.h"
+#include "base/MsgBox.h"
 #include "commands/PrintCommands.h"
+#include "reports/PdfExport.h"
 
 static_assert(kMotorCols == kListColumns, "the list prints every column of the motor grid");
 
@@ -26,4 +28,10 @@ std::string ListPrint_StatusLine(const std::string& printer, const std::string& 
                                     "on-line\x81]Documents in queue:",
                                     "Attention required: Cannot access document to be printed."};
     return Status_Line(kWords, printer, defaultPrinter, jobs);
+}
+
+bool ListPrint_Export(const ListSheet& sheet, const std::string& path, const std::string& date) {
+    if (Report_ExportPdf(path, [&](ReportLibrary& wr) { List_Print(wr, sheet, kPdfDevice, date); })) return true;
+    MsgBox("The PDF file could not be written.", "Export PDF", MsgIcon::Exclamation);
+    return false;
 }

@@ -13,3 +13,7 @@ std::string ListPrint_StatusLine(const std::string& printer, const std::string& 
 
 // The page's grid, series and group as the list prints them.
 ListSheet ListPrint_Sheet(const MotorPage& page);
+
+// "Export PDF...": the list into the PDF file at path, printed at date; false,
+// after a message, when the file cannot be written.
+bool ListPrint_Export(const ListSheet& sheet, const std::string& path, const std::string& date);

@@ -24,6 +24,9 @@ struct ListSheet {
 // ("Unit." or "SelectMtr3."). False when a call failed.
 bool List_Row(ReportLibrary& wr, int32_t handle, const ListSheet& sheet, int16_t index, const std::string& prefix);
 
+// The device name under which the list prints into a PDF file instead of a printer.
+inline constexpr const char* kPdfDevice = "PDF";
+
 enum class ListPrinted { Done, NoPrinter, Failed };
 
 // Prints the whole list on the printer; the date as the report prints it.

@@ -108,5 +108,5 @@ int ReportCli::Run_SeriesList() const {
     if (const int code = Group_Judge(file_, series_, model_, page)) return code;
     const ListSheet sheet = ListPrint_Sheet(page);
     MotorPage_Unload();
-    return Produce(objects_, out_, [&](ReportLibrary& wr) { List_Print(wr, sheet, "PDF", Date()); });
+    return Produce(objects_, out_, [&](ReportLibrary& wr) { List_Print(wr, sheet, kPdfDevice, Date()); });
 }

@@ -15,7 +15,6 @@
 #include "common/ui/FileDialog.h"
 #include "common/ui/RunGuarded.h"
 #include "reports/PageSink.h"
-#include "reports/PdfExport.h"
 #include "reports/Printers.h"
 #include "reports/ReportFill.h"
 #include "reports/SvgReport.h"
@@ -102,10 +101,5 @@ void frmListPrint::CmdPrint_Click() {
 void frmListPrint::CmdExport_Click() {
     const QString path = FileDialog_Save(this, "PDF files (*.pdf)");
     if (path.isEmpty()) return;
-    Run_Guarded("Export PDF", [&] {
-        const bool written = Report_ExportPdf(path.toStdString(), [this](ReportLibrary& wr) {
-            List_Print(wr, sheet_, "PDF", Report_Today());
-        });
-        if (!written) MsgBox("The PDF file could not be written.", "Export PDF", MsgIcon::Exclamation);
-    });
+    Run_Guarded("Export PDF", [&] { ListPrint_Export(sheet_, path.toStdString(), Report_Today()); });
 }

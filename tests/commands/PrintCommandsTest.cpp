@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/RuntimeError.h"
+#include "commands/ListPrintCommands.h"
 #include "commands/PrintCommands.h"
 #include "core/Tables.h"
 #include "reports/CommentBox.h"
@@ -352,6 +353,23 @@ TEST_F(PrintCommandsTest, ExportWritesTheCheckedPartsIntoAPdf) {
 TEST_F(PrintCommandsTest, ExportIntoAFolderThatIsNotThereSaysSo) {
     ASSERT_TRUE(LoadExample());
     EXPECT_FALSE(Print_Export(Request(true, false, false), appDir.File("none/out.pdf")));
+    ASSERT_EQ(msg.Seen().size(), 1u);
+    EXPECT_EQ(msg.Seen()[0].text, "The PDF file could not be written.");
+    EXPECT_EQ(msg.Seen()[0].title, "Export PDF");
+}
+
+TEST_F(PrintCommandsTest, ListExportWritesOnePagePerTwentyMotorsAndTheEmptyPage) {
+    ListSheet sheet{"S", "G", {}, {}};
+    sheet.motors.resize(20, {"OK", "M", "100", "3000", "1E-5", "0.3", "0.9", "30", "0.5", "0"});
+    EXPECT_TRUE(ListPrint_Export(sheet, appDir.File("list.pdf"), "Nov.14,2026"));
+    EXPECT_TRUE(msg.Seen().empty());
+    const std::string pdf = ReadFile(appDir.File("list.pdf"));
+    EXPECT_EQ(pdf.rfind("%PDF-", 0), 0u);
+    EXPECT_NE(pdf.find("/Count 2"), std::string::npos);
+}
+
+TEST_F(PrintCommandsTest, ListExportIntoAFolderThatIsNotThereSaysSo) {
+    EXPECT_FALSE(ListPrint_Export(ListSheet{}, appDir.File("none/list.pdf"), "Nov.14,2026"));
     ASSERT_EQ(msg.Seen().size(), 1u);
     EXPECT_EQ(msg.Seen()[0].text, "The PDF file could not be written.");
     EXPECT_EQ(msg.Seen()[0].title, "Export PDF");
