@@ -210,8 +210,10 @@ void frmList1::cmdRecommend_Click() {
     if (list.exec() != QDialog::Accepted) return;
     const Recommendation& pair = result.pairs[static_cast<std::size_t>(list.Chosen())];
     bool picked = false;
-    const bool ran = Run_Guarded(
-        kTitleMotorSelection, [&] { picked = MotorPage_Pick(page_, pair.seriesIndex, pair.modelIndex, pair.row); });
+    // The group picked is judged at once, so that the pair's motor shows its verdict.
+    const bool ran = Run_Guarded(kTitleMotorSelection, [&] {
+        picked = MotorPage_Pick(page_, pair.seriesIndex, pair.modelIndex, pair.row) && MotorPage_Judge(page_);
+    });
     Disp_Page();
     if (picked) vsfData->setFocus();
     else if (ran) MsgBox("The motor cannot be picked: its series or model group lies beyond the lists.",

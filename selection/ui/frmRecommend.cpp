@@ -1,6 +1,7 @@
 #include "selection/ui/frmRecommend.h"
 
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -41,10 +42,13 @@ frmRecommend::frmRecommend(const RecommendResult& result, QWidget* parent) : QDi
 
     vsfPairs->Show(Recommend_Grid(result.pairs));
     vsfPairs->SetGridRow(kFixedRows);
+    // Ten pairs show without scrolling.
+    vsfPairs->setMinimumHeight(vsfPairs->horizontalHeader()->sizeHint().height() +
+                               10 * vsfPairs->verticalHeader()->defaultSectionSize() + 2 * vsfPairs->frameWidth());
     connect(vsfPairs, &QTableWidget::cellDoubleClicked, this, [this](int row) { Choose(row + kFixedRows); });
     connect(cmdOK, &QPushButton::clicked, this, [this] { Choose(vsfPairs->GridRow()); });
     connect(CmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    resize(1000, 380);
+    resize(1000, sizeHint().height());
 }
 
 void frmRecommend::Choose(int gridRow) {
