@@ -1,5 +1,5 @@
 // The recommendation over the catalogue the program carries, for each
-// application file of the tests: the wizard judges the recommended motor and
+// example application and each application file of the tests: the wizard judges the recommended motor and
 // driver "OK", and no smaller motor of the catalogue has a driver that passes
 // with it.
 #include <gtest/gtest.h>
@@ -20,10 +20,12 @@
 
 namespace {
 
+// The example applications and those of the tests.
 std::vector<std::string> ApplicationFiles() {
     std::vector<std::string> files;
-    for (const auto& entry : std::filesystem::directory_iterator(TORVANE_SOURCE_DIR "/tests/data"))
-        if (entry.path().extension() == ".AP2") files.push_back(entry.path().string());
+    for (const char* folder : {TORVANE_SOURCE_DIR "/examples", TORVANE_SOURCE_DIR "/tests/data"})
+        for (const auto& entry : std::filesystem::directory_iterator(folder))
+            if (entry.path().extension() == ".AP2") files.push_back(entry.path().string());
     std::ranges::sort(files);
     return files;
 }
@@ -89,7 +91,8 @@ TEST_P(RecommendBundledTest, TheWizardJudgesTheRecommendationOkAndNoSmallerMotor
 
 INSTANTIATE_TEST_SUITE_P(ApplicationFiles, RecommendBundledTest, ::testing::ValuesIn(ApplicationFiles()),
                          [](const ::testing::TestParamInfo<std::string>& info) {
-                             std::string name = std::filesystem::path(info.param).stem().string();
+                             const std::filesystem::path file(info.param);
+                             std::string name = file.parent_path().filename().string() + "_" + file.stem().string();
                              std::ranges::replace_if(
                                  name, [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
                              return name;
