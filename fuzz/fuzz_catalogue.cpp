@@ -1,8 +1,8 @@
 // A catalogue row as a maker's data may hold it: every field of a series, a
 // model group, a motor, a driver and a driver type comes from the input, as
-// a number, a text or blank. The whole wizard runs over it (lists, motor
-// grid, judgement, "Next >", the drivers, "Finish") and may end only with
-// a message or a RuntimeError.
+// a number, a text or blank. The recommendation over the whole catalogue
+// and the whole wizard run over it (lists, motor grid, judgement, "Next >",
+// the drivers, "Finish") and may end only with a message or a RuntimeError.
 #include <sqlite3.h>
 
 #include <cstdint>
@@ -21,6 +21,8 @@
 #include "fuzz/FuzzFolder.h"
 #include "selection/DriverPage.h"
 #include "selection/MotorPage.h"
+#include "selection/Recommend.h"
+#include "selection/mdlDataBase.h"
 
 namespace {
 
@@ -120,6 +122,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     Patarn[3] = {0.7, 0.1, 0, 0, 0, 0, 0, 3};
     PatternRowCount = 3;
     Culcurate_All();
+    try {
+        Series_Connect();
+        Recommend({true, 10});
+    } catch (const RuntimeError&) {
+    }
     try {
         Run_Wizard();
     } catch (const RuntimeError&) {

@@ -4,7 +4,8 @@
 # main.png: the main window with the example examples/horizontal-ballscrew.AP2;
 # meca.png: the mechanical system question of a start without a file;
 # list1.png, list2.png: the two pages of the selection wizard over a pushing
-# ballscrew whose judgement shows OK, FAIR and NG.
+# ballscrew whose judgement shows OK, FAIR and NG; recommend.png: the list of
+# its motor page's "Recommend...".
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -47,3 +48,14 @@ HOME="$work/home-wizard" xvfb-run -a -s "-screen 0 1400x950x24" bash -c "
     kill %1" 2>/dev/null
 echo "$out/list1.png"
 echo "$out/list2.png"
+
+# Tools > Motor Selection, the first series, then Recommend... by the keys.
+HOME="$work/home-recommend" xvfb-run -a -s "-screen 0 1400x950x24" bash -c "
+    \"$build/torvane\" \"$work/ballscrew-pushing-600N.AP2\" & sleep 4
+    xdotool search --name '^Torvane-' windowfocus --sync; sleep 0.5
+    xdotool key alt+t; sleep 0.5; xdotool key s; sleep 3
+    xdotool search --name '^Motor Selection\$' windowfocus --sync; sleep 0.5
+    xdotool key space; sleep 1; xdotool key Tab Tab Tab Tab Tab space; sleep 3
+    import -window root \"$out/recommend.png\"
+    kill %1" 2>/dev/null
+echo "$out/recommend.png"

@@ -11,23 +11,28 @@ namespace {
 
 bool Passes(double limit, double value) { return limit >= value || limit == 0 || Same_Single(limit, value); }
 
-const DriverTypeRec& Find(int16_t driverType) {
-    for (const DriverTypeRec& rec : DriverTypes)
+const DriverTypeRec& Find(const std::vector<DriverTypeRec>& types, int16_t driverType) {
+    for (const DriverTypeRec& rec : types)
         if (rec.DriverType == driverType) return rec;
     throw RuntimeError("Subscript out of range");
 }
 
 }  // namespace
 
-void Comment_Judge_Set() {
-    Recordset types;
-    Recordset_Open(Query_DriverTypes(), types);
-    DriverTypes.clear();
-    for (; !types.IsEOF(); types.MoveNext())
-        DriverTypes.push_back({CInt(types.Field("DriverType").Num()), types.Field("OKComment").Text(),
-                               CInt(types.Field("OKJudgeFlg").Num()), types.Field("NGComment").Text(),
-                               CInt(types.Field("NGJudgeFlg").Num())});
+void Comment_Judge_Set() { DriverTypes = DriverTypes_Read(); }
+
+std::vector<DriverTypeRec> DriverTypes_Read() {
+    Recordset rows;
+    Recordset_Open(Query_DriverTypes(), rows);
+    std::vector<DriverTypeRec> types;
+    for (; !rows.IsEOF(); rows.MoveNext())
+        types.push_back({CInt(rows.Field("DriverType").Num()), rows.Field("OKComment").Text(),
+                         CInt(rows.Field("OKJudgeFlg").Num()), rows.Field("NGComment").Text(),
+                         CInt(rows.Field("NGJudgeFlg").Num())});
+    return types;
 }
+
+double Regeneration_Limit(const FieldValue& field) { return field.Blank() ? kNoLimit : field.Num(); }
 
 int16_t Regeneration_Judge(double limit1, double limit2, double value1, double value2) {
     if (limit1 == kNoLimit && limit2 == kNoLimit) return 0;
@@ -41,14 +46,18 @@ bool Limit_Exceeded(double limit, double value) {
 }
 
 std::string_view Driver_Judge(int16_t driverType, int16_t code, std::string_view& color) {
-    const DriverTypeRec& rec = Find(driverType);
-    const std::string_view text = PatternRowCount == 0 ? "NA" : JudgeString(code != 0 ? rec.NGJudgeFlg : rec.OKJudgeFlg);
+    const std::string_view text = Driver_Verdict(DriverTypes, driverType, code);
     color = JudgeColor(text);
     return text;
 }
 
+std::string_view Driver_Verdict(const std::vector<DriverTypeRec>& types, int16_t driverType, int16_t code) {
+    const DriverTypeRec& rec = Find(types, driverType);
+    return PatternRowCount == 0 ? "NA" : JudgeString(code != 0 ? rec.NGJudgeFlg : rec.OKJudgeFlg);
+}
+
 const std::string& Driver_Comment(int16_t driverType, int16_t code) {
-    const DriverTypeRec& rec = Find(driverType);
+    const DriverTypeRec& rec = Find(DriverTypes, driverType);
     return code != 0 ? rec.NGComment : rec.OKComment;
 }
 

@@ -15,8 +15,6 @@
 
 namespace {
 
-double Limit(const FieldValue& field) { return field.Blank() ? kNoLimit : field.Num(); }
-
 void Mark_Limit(GridCell& cell, double limit, double value) {
     cell.color = Limit_Exceeded(limit, value) ? kColorRed : kColorWindowText;
 }
@@ -25,8 +23,8 @@ void Driver_Row(Grid& grid, int row) {
     Driver_Cells(DriverRecordset, grid, row);
     const FieldValue& regeneration1 = DriverRecordset.Field("Regeneration1");
     const FieldValue& regeneration2 = DriverRecordset.Field("Regeneration2");
-    const double limit1 = Limit(regeneration1);
-    const double limit2 = Limit(regeneration2);
+    const double limit1 = Regeneration_Limit(regeneration1);
+    const double limit2 = Regeneration_Limit(regeneration2);
     double Jm = CandidateJm;
     double mass = CandidateMotorMass;
     Pattern_Torques(PatarnTrial, kMotorTrial, Jm, mass);

@@ -1,6 +1,7 @@
 #include "selection/MotorJudge.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/Numeric.h"
 #include "base/RuntimeError.h"
@@ -37,12 +38,22 @@ void Mark(GridCell& cell, int16_t judge) {
 
 MotorJudgement Motor_Judge(const MotorLoad& load, const MotorLimits& motor) {
     MotorJudgement j;
-    j.Judge[0] = Banded(load.T1, motor.RatedTorque, 80, j.MissingCount);
-    j.Judge[1] = Kept(load.T3, motor.RatedTorque, 70, j.MissingCount);
-    j.Judge[2] = Banded(load.T2, motor.MaximumTorque, 80, j.MissingCount);
+    j.Judge[0] = Banded(load.T1, motor.RatedTorque, kEffectiveShare, j.MissingCount);
+    j.Judge[1] = Kept(load.T3, motor.RatedTorque, kStoppingShare, j.MissingCount);
+    j.Judge[2] = Banded(load.T2, motor.MaximumTorque, kMaximumShare, j.MissingCount);
     j.Judge[3] = Kept(load.N, motor.RotationalSpeed, 100, j.MissingCount);
     j.Judge[4] = Ratio(load.JL, motor.Inertia, motor.MaxInertia, j.MissingCount);
     return j;
+}
+
+std::array<double, 5> Motor_Utilisation(const MotorLoad& load, const MotorLimits& motor) {
+    const auto share = [](double value, double limit, double percent) {
+        return limit == 0 ? std::nan("") : value / (limit * percent / 100);
+    };
+    const double ratio = motor.Inertia == 0 ? std::nan("") : load.JL / motor.Inertia;
+    return {share(load.T1, motor.RatedTorque, kEffectiveShare), share(load.T3, motor.RatedTorque, kStoppingShare),
+            share(load.T2, motor.MaximumTorque, kMaximumShare), share(load.N, motor.RotationalSpeed, 100),
+            share(ratio, motor.MaxInertia, 100)};
 }
 
 Verdict Motor_Verdict(const MotorJudgement& judgement) {

@@ -4,20 +4,15 @@
 
 #include "base/MsgBox.h"
 #include "base/Numeric.h"
-#include "calc/mdlCulcurate.h"
 #include "core/PatarnRows.h"
 #include "core/Tables.h"
 #include "selection/DriverPage.h"
 #include "selection/MotorJudge.h"
+#include "selection/MotorTrial.h"
 #include "selection/Queries.h"
 #include "selection/mdlDataBase.h"
 
 namespace {
-
-MotorLimits Limits(const Recordset& motor) {
-    return {motor.Field("RatedTorque").Num(), motor.Field("MaximumTorque").Num(),
-            motor.Field("RotationalSpeed").Num(), motor.Field("Inertia").Num(), motor.Field("MaxInertia").Num()};
-}
 
 void Mark_NoPattern(Grid& vsfData) {
     for (int row = kFixedRows; row <= MotorRowCount + 1; ++row) {
@@ -28,23 +23,14 @@ void Mark_NoPattern(Grid& vsfData) {
     }
 }
 
-// The trial calculation per motor. JL keeps the last good load inertia
-// across a motor whose load inertia cannot be computed.
+// Every motor of the grid judged on PatarnTrial. JL starts at 0 on each
+// judgement and keeps the last good load inertia across a motor whose load
+// inertia cannot be computed.
 void Judge_Rows(Grid& vsfData) {
     double JL = 0;
     for (int row = kFixedRows; row <= MotorRowCount + 1; ++row, MotorRecordset.MoveNext()) {
-        const MotorLimits motor = Limits(MotorRecordset);
-        double Jm = MotorRecordset.Field("BrakeInertia").Num() + motor.Inertia;
-        double mass = MotorRecordset.Field("mass").Num();
-        Pattern_Torques(PatarnTrial, kMotorTrial, Jm, mass);
-        MotorLoad load;
-        load.T1 = Effective_Torque(PatarnTrial);
-        load.T2 = Max_Torque(PatarnTrial);
-        load.N = Max_Speed(PatarnTrial);
-        const double inertia = Load_Inertia(Element, kMotorTrial, mass);
-        if (inertia != -1) JL = inertia;
-        load.JL = JL;
-        load.T3 = Stopping_Torque(PatarnTrial);
+        const MotorLimits motor = Motor_Limits(MotorRecordset);
+        const MotorLoad load = Motor_Trial(PatarnTrial, MotorRecordset, JL);
         Motor_Mark(Motor_Judge(load, motor), vsfData, row);
     }
 }
@@ -90,6 +76,19 @@ void MotorPage_PickModel(MotorPage& page, int index) {
 void MotorPage_MoveToRow(MotorPage& page, int row) {
     page.Row = row;
     if (row >= kFixedRows && row <= MotorRowCount + 1) page.lblComment = MotorCommentList[row - 1];
+}
+
+bool MotorPage_Pick(MotorPage& page, int series, int model, int row) {
+    const auto within = [](int index, std::size_t size) {
+        return index >= 0 && index < static_cast<int>(std::min<std::size_t>(size, kListSlots));
+    };
+    if (!within(series, page.lstS.size())) return false;
+    MotorPage_PickSeries(page, series);
+    if (!within(model, page.lstM.size())) return false;
+    MotorPage_PickModel(page, model);
+    if (row < kFixedRows || row > MotorRowCount + 1) return false;
+    MotorPage_MoveToRow(page, row);
+    return true;
 }
 
 bool MotorPage_Judge(MotorPage& page) {

@@ -39,6 +39,11 @@ void MotorPage_PickModel(MotorPage& page, int index);
 // Moves the current row; lblComment follows.
 void MotorPage_MoveToRow(MotorPage& page, int row);
 
+// Picks the series and the model group at their positions in the lists and
+// moves to the grid row, as clicks do; false when a position lies beyond
+// the lists or the row beyond the grid, the picks made by then standing.
+bool MotorPage_Pick(MotorPage& page, int series, int model, int row);
+
 // "Judgement": judges every motor of the grid on PatarnTrial. True when
 // the motors were judged; without a pick nothing happens, and without a
 // pattern every motor is marked "NA" and the judgement ends there.

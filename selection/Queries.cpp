@@ -18,3 +18,8 @@ std::string Query_Drivers(std::string_view motorModel) {
 }
 
 std::string Query_DriverTypes() { return "SELECT * FROM DriverTypeMaster order by DriverType;"; }
+
+std::string Query_MotorDrivers() {
+    return "SELECT MotorDriverTable.MotorModel AS FitMotor, DriverTable.* FROM MotorDriverTable,DriverTable"
+           " WHERE MotorDriverTable.[DriverModel] = DriverTable.[DriverModel] order by DriverTable.[DriverModel];";
+}

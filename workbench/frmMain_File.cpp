@@ -8,6 +8,7 @@
 #include "core/Tables.h"
 #include "persist/mdlFile.h"
 #include "common/ui/FileDialog.h"
+#include "common/ui/Hourglass.h"
 #include "workbench/frmMain.h"
 
 namespace {
@@ -15,14 +16,6 @@ namespace {
 const QString kDocumentFilter = "Motor Selection Data(*.AP2)";
 const QString kResultsFilter = "(*.TXT)";
 const QString kPdfFilter = "PDF files (*.pdf)";
-
-class Hourglass {
-public:
-    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Hourglass() { QApplication::restoreOverrideCursor(); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-};
 
 }  // namespace
 

@@ -6,9 +6,11 @@
 
 #include "app/cli/GridPrint.h"
 #include "app/cli/Json.h"
+#include "app/cli/RecommendPrint.h"
 #include "commands/SelectionTake.h"
 #include "core/Startup.h"
 #include "persist/mdlFile.h"
+#include "selection/Recommend.h"
 
 namespace {
 
@@ -89,6 +91,15 @@ int Run_Select(const std::string& file, const std::string& motor, const std::str
     return File_Save(out) ? 0 : 1;
 }
 
+int Run_Recommend(const std::string& file, const RecommendOptions& options, bool json) {
+    MotorPage page;
+    if (!Open(file, page)) return 1;
+    const RecommendResult result = Recommend(options);
+    if (json) Recommend_PrintJson(result, std::cout);
+    else Recommend_PrintText(result, std::cout);
+    return 0;
+}
+
 }  // namespace
 
 int Group_Judge(const std::string& file, const std::string& series, const std::string& model, MotorPage& page) {
@@ -107,18 +118,23 @@ SelectionCli::SelectionCli(CLI::App& app)
     : series_(app.add_subcommand("series", "List the motor series of the catalogue and their model groups")),
       judge_(app.add_subcommand("judge", "Judge every motor of a model group against an application file")),
       drivers_(app.add_subcommand("drivers", "Judge the drivers that fit a motor against an application file")),
-      select_(app.add_subcommand("select", "Take a motor and a driver on and save the application file")) {
+      select_(app.add_subcommand("select", "Take a motor and a driver on and save the application file")),
+      recommend_(app.add_subcommand("recommend", "Rank the motor and driver pairs of the whole catalogue that pass")) {
     series_->add_flag("--json", json_, "print JSON instead of text");
-    for (CLI::App* command : {judge_, drivers_, select_})
+    for (CLI::App* command : {judge_, drivers_, select_, recommend_})
         command->add_option("FILE", file_, "application file (.AP2)")->required()->check(CLI::ExistingFile);
     judge_->add_option("--series", seriesName_, "series name as listed")->required();
     judge_->add_option("--model", modelName_, "model group name as listed")->required();
     for (CLI::App* command : {drivers_, select_})
         command->add_option("--motor", motor_, "motor model number")->required();
-    for (CLI::App* command : {judge_, drivers_}) command->add_flag("--json", json_, "print JSON instead of text");
+    for (CLI::App* command : {judge_, drivers_, recommend_}) command->add_flag("--json", json_, "print JSON instead of text");
     select_->add_option("--driver", driver_, "driver model number")->required();
     select_->add_option("--model-text", modelText_, "model number to store, with its options");
     select_->add_option("--out", out_, "application file to write")->required();
+    recommend_->add_option("--top", top_, "the number of pairs printed, best first")
+        ->capture_default_str()
+        ->check(CLI::PositiveNumber);
+    recommend_->add_flag("--include-fair", includeFair_, "pass FAIR motors and drivers too");
 }
 
 int SelectionCli::Run() const {
@@ -126,5 +142,6 @@ int SelectionCli::Run() const {
     if (judge_->parsed()) return Run_Judge(file_, seriesName_, modelName_, json_);
     if (drivers_->parsed()) return Run_Drivers(file_, motor_, json_);
     if (select_->parsed()) return Run_Select(file_, motor_, driver_, modelText_, out_);
+    if (recommend_->parsed()) return Run_Recommend(file_, {includeFair_, top_}, json_);
     return -1;
 }

@@ -1,10 +1,12 @@
 // The subcommands of the selection wizard: series lists the catalogue,
 // judge prints the motor grid judged against a file, drivers the driver grid
-// of a motor, select takes a motor and a driver on and saves the file.
+// of a motor, select takes a motor and a driver on and saves the file, and
+// recommend ranks the motor and driver pairs of the whole catalogue.
 #pragma once
 
 #include <CLI/CLI.hpp>
 
+#include <cstddef>
 #include <string>
 
 #include "selection/MotorPage.h"
@@ -25,6 +27,9 @@ private:
     CLI::App* judge_;
     CLI::App* drivers_;
     CLI::App* select_;
+    CLI::App* recommend_;
     std::string file_, seriesName_, modelName_, motor_, driver_, modelText_, out_;
+    std::size_t top_ = 10;
     bool json_ = false;
+    bool includeFair_ = false;
 };

@@ -10,13 +10,17 @@
 #include <QVBoxLayout>
 
 #include "commands/ListPrintCommands.h"
+#include "base/MsgBox.h"
+#include "common/ui/Hourglass.h"
 #include "common/ui/RunGuarded.h"
 #include "reports/ui/frmListPrint.h"
 #include "selection/DriverPage.h"
+#include "selection/Recommend.h"
 #include "selection/mdlDataBase.h"
 #include "selection/ui/GridView.h"
 #include "selection/ui/WizardButton.h"
 #include "selection/ui/frmList2.h"
+#include "selection/ui/frmRecommend.h"
 #include "common/ui/QtSettingsStore.h"
 
 namespace {
@@ -55,6 +59,7 @@ frmList1::frmList1(QWidget* parent) : QWidget(parent, Qt::Window) {
     lblComment->setMinimumHeight(2 * fontMetrics().height() + 6);
     cmdJudge = Wizard_Button(this, "cmdJudge", "Judgement");
     CmdPrint = Wizard_Button(this, "CmdPrint", "Print");
+    cmdRecommend = Wizard_Button(this, "cmdRecommend", "Recommend...");
     cmdReverce = Wizard_Button(this, "cmdReverce", "< Back(&B)");
     cmdNext = Wizard_Button(this, "cmdNext", "Next >");
     CmdCancel = Wizard_Button(this, "CmdCancel", "Cancel");
@@ -69,6 +74,7 @@ frmList1::frmList1(QWidget* parent) : QWidget(parent, Qt::Window) {
     auto* keys = new QHBoxLayout;
     keys->addWidget(cmdJudge);
     keys->addWidget(CmdPrint);
+    keys->addWidget(cmdRecommend);
     keys->addStretch();
     keys->addWidget(cmdReverce);
     keys->addWidget(cmdNext);
@@ -92,6 +98,7 @@ frmList1::frmList1(QWidget* parent) : QWidget(parent, Qt::Window) {
     });
     connect(cmdJudge, &QPushButton::clicked, this, &frmList1::cmdJudge_Click);
     connect(CmdPrint, &QPushButton::clicked, this, &frmList1::CmdPrint_Click);
+    connect(cmdRecommend, &QPushButton::clicked, this, &frmList1::cmdRecommend_Click);
     connect(cmdNext, &QPushButton::clicked, this, &frmList1::cmdNext_Click);
     connect(cmdReverce, &QPushButton::clicked, this, &frmList1::Wizard_Unload);
     connect(CmdCancel, &QPushButton::clicked, this, &frmList1::Wizard_Unload);
@@ -187,4 +194,28 @@ void frmList1::CmdPrint_Click() {
     ListSheet sheet;
     if (!Run_Guarded("Motor Selection", [&] { sheet = ListPrint_Sheet(page_); })) return;
     frmListPrint(std::move(sheet), this).Open();
+}
+
+void frmList1::cmdRecommend_Click() {
+    RecommendResult result;
+    {
+        Hourglass wait;
+        if (!Run_Guarded(kTitleRecommend, [&] { result = Recommend({}); })) return;
+    }
+    if (result.pairs.empty()) {
+        MsgBox(std::string(kNothingPasses), std::string(kTitleRecommend), MsgIcon::Information);
+        return;
+    }
+    frmRecommend list(result, this);
+    if (list.exec() != QDialog::Accepted) return;
+    const Recommendation& pair = result.pairs[static_cast<std::size_t>(list.Chosen())];
+    bool picked = false;
+    // The group picked is judged at once, so that the pair's motor shows its verdict.
+    const bool ran = Run_Guarded(kTitleMotorSelection, [&] {
+        picked = MotorPage_Pick(page_, pair.seriesIndex, pair.modelIndex, pair.row) && MotorPage_Judge(page_);
+    });
+    Disp_Page();
+    if (picked) vsfData->setFocus();
+    else if (ran) MsgBox("The motor cannot be picked: its series or model group lies beyond the lists.",
+                std::string(kTitleRecommend), MsgIcon::Exclamation);
 }

@@ -31,6 +31,9 @@ public:
     void cmdNext_Click();
     // "Print": the series list print dialog, while a series and a group are picked.
     void CmdPrint_Click();
+    // "Recommend...": the best pairs of the whole catalogue; the one chosen
+    // is picked in the lists and the grid.
+    void cmdRecommend_Click();
     // "< Back" and "Cancel": both pages unload, the selection that stood stays.
     void Wizard_Unload();
     // The page that is up, or this one when the driver page never came.
@@ -57,6 +60,7 @@ private:
     QLabel* lblComment = nullptr;
     QPushButton* cmdJudge = nullptr;
     QPushButton* CmdPrint = nullptr;
+    QPushButton* cmdRecommend = nullptr;
     QPushButton* cmdReverce = nullptr;
     QPushButton* cmdNext = nullptr;
     QPushButton* CmdCancel = nullptr;

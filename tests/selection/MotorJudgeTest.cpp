@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include "base/RuntimeError.h"
 
 namespace {
@@ -112,6 +115,23 @@ TEST(MotorJudge, MarkingsOfSpeedRatioAndRatedTorque) {
     EXPECT_EQ(grid.Cell(row, 7).color, kColorWindowText);
     EXPECT_EQ(grid.Cell(row, 0).text, "OK");
     EXPECT_TRUE(grid.Cell(row, 0).bold);
+}
+
+TEST(MotorJudge, UtilisationIsEachValueOverItsLimit) {
+    // 80 % of 1, 70 % of 1, 80 % of 3, 3000 r/min and a ratio of 10, each taken by half.
+    const std::array<double, 5> u = Motor_Utilisation(Load(0.4, 1.2, 0.35, 1500, 5e-4), kMotor);
+    for (const double ratio : u) EXPECT_NEAR(ratio, 0.5, 1e-12);
+    EXPECT_NEAR(Motor_Utilisation(Load(0.9), kMotor)[0], 0.9 / 0.8, 1e-12);
+}
+
+TEST(MotorJudge, UtilisationOfALimitWithoutADatumIsUnknown) {
+    const std::array<double, 5> none = Motor_Utilisation(Load(0.5), MotorLimits{});
+    EXPECT_TRUE(std::ranges::all_of(none, [](double ratio) { return std::isnan(ratio); }));
+    MotorLimits noRatio = kMotor;
+    noRatio.MaxInertia = 0;
+    const std::array<double, 5> u = Motor_Utilisation(Load(0.5), noRatio);
+    EXPECT_TRUE(std::isnan(u[4]));
+    EXPECT_FALSE(std::isnan(u[3]));
 }
 
 TEST(MotorJudge, FairIsOrange) {

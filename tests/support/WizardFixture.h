@@ -45,8 +45,8 @@ protected:
     }
 
     static std::string Motor(const std::string& model, int capacity, double rated, double maximum, double speed,
-                             double inertia, double ratio) {
-        return "INSERT INTO MotorTable VALUES (1, 1, '" + model + "', " + std::to_string(capacity) + ", " + Sql(speed) +
+                             double inertia, double ratio, int group = 1) {
+        return "INSERT INTO MotorTable VALUES (1, " + std::to_string(group) + ", '" + model + "', " + std::to_string(capacity) + ", " + Sql(speed) +
                ", " + Sql(inertia) + ", " + Sql(rated) + ", " + Sql(maximum) + ", " + Sql(ratio) +
                ", 2, 0, 'about " + model + "');";
     }
@@ -55,11 +55,17 @@ protected:
                ", 'Pulse', '200', 'Three-phase');";
     }
 
+    // Twice what the application takes: rated and maximum torque, speed and allowable ratio.
+    struct Room {
+        double R, X, N, A;
+    };
+    Room Twice() const { return {2 * std::max(v.T1, v.T3), 2 * v.T2, 2 * v.N, 2 * v.JL / kJm}; }
+
     // Series "S" with the group "G" of five motors, one of each verdict and a
     // hidden FAIR, and the group "Empty"; series "T" has no group at all.
-    // OK1 fits three drivers, FAIR1 one, the others none.
-    void Build() {
-        const double R = 2 * std::max(v.T1, v.T3), X = 2 * v.T2, N = 2 * v.N, A = 2 * v.JL / kJm;
+    // OK1 fits three drivers, FAIR1 one, the others none. The extra rows follow.
+    void Build(const std::string& extra = "") {
+        const auto [R, X, N, A] = Twice();
         Catalogue_Build(appDir.Path(),
                         "INSERT INTO MotorSeriesMaster VALUES ('S', 10, 1), ('T', 20, 2);"
                         "INSERT INTO ModelMaster VALUES (10, 'G', 1), (10, 'Empty', 2);" +
@@ -71,7 +77,8 @@ protected:
                             Driver("D1", "NULL", "NULL", 1) + Driver("D2", Sql(v.peak / 2), Sql(2 * v.mean), 1) +
                             Driver("D3", Sql(v.peak / 2), "NULL", 2) +
                             "INSERT INTO MotorDriverTable VALUES ('OK1', 'D1'), ('OK1', 'D2'), ('OK1', 'D3'),"
-                            " ('FAIR1', 'D1');");
+                            " ('FAIR1', 'D1');" +
+                            extra);
     }
 
     frmList1* Open() {

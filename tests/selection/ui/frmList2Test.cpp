@@ -244,10 +244,11 @@ TEST_F(frmList2Test, TabWalksEachPageInTheOrderOfItsControls) {
     frmList1* page = Judged();
     auto* lstS = Ctl<QListWidget>(page, "lstS");
     std::vector<QWidget*> walked;
-    for (QWidget* at = lstS; walked.size() < 8; at = at->nextInFocusChain())
+    for (QWidget* at = lstS; walked.size() < 9; at = at->nextInFocusChain())
         if (at->focusPolicy() & Qt::TabFocus) walked.push_back(at);
     EXPECT_EQ(walked, (std::vector<QWidget*>{lstS, Ctl<QListWidget>(page, "lstM"), Ctl<GridView>(page, "vsfData"),
                                              Ctl<QPushButton>(page, "cmdJudge"), Ctl<QPushButton>(page, "CmdPrint"),
+                                             Ctl<QPushButton>(page, "cmdRecommend"),
                                              Ctl<QPushButton>(page, "cmdReverce"), Ctl<QPushButton>(page, "cmdNext"),
                                              Ctl<QPushButton>(page, "CmdCancel")}));
     frmList2* drivers = Next(page, 2);
