@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "app/cli/ChainPrint.h"
+#include "app/cli/ChecksCli.h"
 #include "app/cli/Json.h"
 #include "app/cli/ReportCli.h"
 #include "app/cli/ResultsCli.h"
@@ -58,6 +59,7 @@ int main(int argc, char** argv) {
     ResultsCli results(app);
     ReportCli report(app);
     SizeCli size(app);
+    ChecksCli checks(app);
 
     try {
         app.parse(argc, argv);
@@ -71,6 +73,7 @@ int main(int argc, char** argv) {
         if (const int code = results.Run(); code >= 0) return code;
         if (const int code = report.Run(); code >= 0) return code;
         if (const int code = size.Run(); code >= 0) return code;
+        if (const int code = checks.Run(); code >= 0) return code;
     } catch (const RuntimeError& e) {
         std::cerr << "torvane-cli: " << e.what() << '\n';
         return 1;

@@ -5,7 +5,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -14,6 +13,7 @@
 #include "commands/Activation.h"
 #include "core/Tables.h"
 #include "tests/support/CliRun.h"
+#include "tests/support/JsonRead.h"
 #include "tests/support/TestState.h"
 
 namespace {
@@ -50,114 +50,6 @@ std::string RowLine(const std::string& text, int slot, const std::string& name) 
         if (line.find("  " + name + "  ") != std::string::npos) return line;
     return "";
 }
-
-// --- a small JSON reader, enough to check the tool's output ---------------------
-
-struct Json {
-    enum Kind { Null, Bool, Number, String, Array, Object } kind = Null;
-    double number = 0;
-    std::string text;
-    std::vector<Json> items;
-    std::map<std::string, Json> fields;
-    const Json& operator[](const std::string& key) const { return fields.at(key); }
-    const Json& operator[](std::size_t i) const { return items.at(i); }
-};
-
-class JsonReader {
-public:
-    explicit JsonReader(std::string s) : s_(std::move(s)) {}
-    bool Parse(Json& out) {
-        if (!Value(out)) return false;
-        Blank();
-        return i_ == s_.size();
-    }
-
-private:
-    void Blank() {
-        while (i_ < s_.size() && (s_[i_] == ' ' || s_[i_] == '\n' || s_[i_] == '\r' || s_[i_] == '\t')) ++i_;
-    }
-    bool Literal(const char* word) {
-        const std::string w(word);
-        if (s_.compare(i_, w.size(), w) != 0) return false;
-        i_ += w.size();
-        return true;
-    }
-    bool Str(std::string& out) {
-        if (s_[i_] != '"') return false;
-        for (++i_; i_ < s_.size(); ++i_) {
-            const char c = s_[i_];
-            if (c == '"') return ++i_, true;
-            if (static_cast<unsigned char>(c) < 0x20) return false;
-            if (c == '\\') {
-                if (++i_ >= s_.size()) return false;
-                const char e = s_[i_];
-                if (e == 'u') {
-                    if (i_ + 4 >= s_.size()) return false;
-                    const unsigned v = std::stoul(s_.substr(i_ + 1, 4), nullptr, 16);
-                    out += v < 0x80 ? std::string(1, static_cast<char>(v)) : std::string("?");
-                    i_ += 4;
-                } else {
-                    const std::string from = "\"\\/bfnrt", to = "\"\\/\b\f\n\r\t";
-                    const auto k = from.find(e);
-                    if (k == std::string::npos) return false;
-                    out += to[k];
-                }
-            } else {
-                out += c;
-            }
-        }
-        return false;
-    }
-    bool Value(Json& v) {
-        Blank();
-        if (i_ >= s_.size()) return false;
-        const char c = s_[i_];
-        if (c == '{') {
-            v.kind = Json::Object;
-            ++i_;
-            Blank();
-            if (s_[i_] == '}') return ++i_, true;
-            for (;;) {
-                Blank();
-                std::string key;
-                if (!Str(key)) return false;
-                Blank();
-                if (s_[i_++] != ':') return false;
-                if (!Value(v.fields[key])) return false;
-                Blank();
-                if (s_[i_] == ',') { ++i_; continue; }
-                return s_[i_++] == '}';
-            }
-        }
-        if (c == '[') {
-            v.kind = Json::Array;
-            ++i_;
-            Blank();
-            if (s_[i_] == ']') return ++i_, true;
-            for (;;) {
-                v.items.emplace_back();
-                if (!Value(v.items.back())) return false;
-                Blank();
-                if (s_[i_] == ',') { ++i_; continue; }
-                return s_[i_++] == ']';
-            }
-        }
-        if (c == '"') return v.kind = Json::String, Str(v.text);
-        if (Literal("null")) return v.kind = Json::Null, true;
-        if (Literal("true")) return v.kind = Json::Bool, v.number = 1, true;
-        if (Literal("false")) return v.kind = Json::Bool, true;
-        const std::size_t start = i_;
-        while (i_ < s_.size() && std::string("+-0123456789.eE").find(s_[i_]) != std::string::npos) ++i_;
-        if (i_ == start) return false;
-        std::size_t used = 0;
-        v.kind = Json::Number;
-        v.number = std::stod(s_.substr(start, i_ - start), &used);
-        return used == i_ - start;
-    }
-
-    std::string s_;
-    std::size_t i_ = 0;
-};
 
 // Default units of a fresh installation, as UTF-8 on the terminal.
 const std::string kInertiaUnit = "kg\xC2\xB7m\xC2\xB2(GD2/4)";
@@ -244,7 +136,7 @@ TEST_F(CliTest, JsonOfTemplateOneHoldsTheSameChain) {
     const CliRun r = RunCli(appDir, "template 1 --json");
     ASSERT_EQ(r.code, 0) << r.err;
     Json doc;
-    ASSERT_TRUE(JsonReader(r.out).Parse(doc)) << r.out;
+    ASSERT_TRUE(Json_Parse(r.out, doc)) << r.out;
     EXPECT_EQ(doc["template"].number, 1);
     EXPECT_EQ(doc["name"].text, "Horizontal ballscrew");
     EXPECT_EQ(doc["elementCount"].number, 4);
@@ -278,7 +170,7 @@ TEST_F(CliTest, JsonOfTemplateSevenHoldsTheRackAndPinion) {
     const CliRun r = RunCli(appDir, "template 7 --json");
     ASSERT_EQ(r.code, 0) << r.err;
     Json doc;
-    ASSERT_TRUE(JsonReader(r.out).Parse(doc)) << r.out;
+    ASSERT_TRUE(Json_Parse(r.out, doc)) << r.out;
     EXPECT_EQ(doc["name"].text, "Rack and pinion");
     ASSERT_EQ(doc["elements"].items.size(), 4u);
     EXPECT_EQ(doc["elements"][2]["type"].number, 16);
@@ -292,7 +184,7 @@ TEST_F(CliTest, EveryTemplateNumberRuns) {
         const CliRun r = RunCli(appDir, "template " + std::to_string(n) + " --json");
         ASSERT_EQ(r.code, 0) << n << r.err;
         Json doc;
-        ASSERT_TRUE(JsonReader(r.out).Parse(doc)) << n;
+        ASSERT_TRUE(Json_Parse(r.out, doc)) << n;
         EXPECT_EQ(doc["elements"].items.size(), counts[n]) << n;
         EXPECT_EQ(doc["elementCount"].number, counts[n]) << n;
     }
@@ -306,7 +198,7 @@ TEST_F(CliTest, EveryTemplateShowsTheInertiaItsActivationComputes) {
         const CliRun r = RunCli(appDir, "template " + std::to_string(n) + " --json");
         ASSERT_EQ(r.code, 0) << r.err;
         Json doc;
-        ASSERT_TRUE(JsonReader(r.out).Parse(doc));
+        ASSERT_TRUE(Json_Parse(r.out, doc));
         State_Reset();
         MecaResult = 1;
         MecaTemplateNo = n;
