@@ -1,5 +1,6 @@
-// Catalogue rows out of a fuzz input: the input's lines are the fields, and
-// each goes into its row blank, as a number or as a text.
+// Catalogue rows out of a fuzz input (the input's lines are the fields, and
+// each goes into its row blank, as a number or as a text), and the document
+// that the catalogue is judged against.
 #pragma once
 
 #include <sqlite3.h>
@@ -15,6 +16,8 @@
 #include <vector>
 
 #include "base/Numeric.h"
+#include "core/Document.h"
+#include "core/Tables.h"
 
 // The fields of the input, one per line.
 inline std::vector<std::string> Fields(const uint8_t* data, size_t size) {
@@ -67,4 +70,17 @@ inline sqlite3* Catalogue_Writer(const std::string& path, std::initializer_list<
         return opened;
     }();
     return db;
+}
+
+// The horizontal ballscrew with a pattern of three rows: up to 3000 r/min,
+// on at the cruise speed, down to rest; no motor chosen, not yet calculated.
+inline void Fuzz_Ballscrew(double cruise) {
+    Template_Fill(1, true);
+    ElementCount = MecaTemplateCount[1];
+    MotorSelected = 0;
+    Patarn = {};
+    Patarn[1] = {0.1, 0.1, 3000, 0, 0, 0, 0, 3};
+    Patarn[2] = {0.6, 0.5, cruise, 0, 0, 0, 0, 3};
+    Patarn[3] = {0.7, 0.1, 0, 0, 0, 0, 0, 3};
+    PatternRowCount = 3;
 }

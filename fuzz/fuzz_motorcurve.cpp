@@ -41,13 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     MsgBox_SetHandler([](const MsgRequest&) { return MsgAnswer::OK; });
     const std::string& dir = Fuzz_Folder();
     if (!Build(dir + "/Series.db", Fields(data, size))) return 0;
-    Template_Fill(1, true);
-    ElementCount = MecaTemplateCount[1];
-    Patarn = {};
-    Patarn[1] = {0.1, 0.1, 3000, 0, 0, 0, 0, 3};
-    Patarn[2] = {0.6, 0.5, -4000, 0, 0, 0, 0, 3};
-    Patarn[3] = {0.7, 0.1, 0, 0, 0, 0, 0, 3};
-    PatternRowCount = 3;
+    Fuzz_Ballscrew(-4000);
     MotorSelected = kMotorChosen;
     SelectedJm = 1e-4;
     MotorModelText = "M1-X";

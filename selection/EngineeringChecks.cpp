@@ -21,11 +21,11 @@ CheckState Judge_Share(double share) {
 TorqueCheck Torque_Check(double low, double high, double torque, const ChosenParts& parts,
                          double CurvePoint::*member) {
     TorqueCheck c{low, high, std::fabs(torque)};
-    if (parts.curveSource != CurveSource::Found) return c;
     if (Is_Marked(torque) || !std::isfinite(torque) || !std::isfinite(high)) {
         c.state = CheckState::NotComputed;
         return c;
     }
+    if (parts.curveSource != CurveSource::Found) return c;
     const CurveOffer offer = parts.curve.LowestOver(low, high, member);
     c.offered = offer.torque;
     c.aboveTop = offer.aboveTop;
@@ -52,11 +52,11 @@ double Travel(double v1, double v2, double dt) {
 
 RegenCheck Regen_Check(double value, const std::optional<double>& limit, DriverSource source) {
     RegenCheck c{value};
-    if (source != DriverSource::Found) return c;
     if (Is_Marked(value) || !std::isfinite(value)) {
         c.state = RegenState::NotComputed;
         return c;
     }
+    if (source != DriverSource::Found) return c;
     if (!limit) {
         c.state = RegenState::NoLimit;
         return c;
@@ -93,7 +93,7 @@ void Checks_Compute(const PatarnTable& table, int n, double effectiveTorque, dou
     }
     out.meanSpeed = time > 0 ? travel / time : 0;
     out.mean = Torque_Check(out.meanSpeed, out.meanSpeed, effectiveTorque, parts, &CurvePoint::continuous);
-    if (out.intervals == 0 && out.mean.state != CheckState::NoCurve) out.mean.state = CheckState::NotComputed;
+    if (out.intervals == 0) out.mean.state = CheckState::NotComputed;
 
     out.energy = Regen_Check(regenPeak, parts.energyLimit, parts.driverSource);
     out.power = Regen_Check(regenMean, parts.powerLimit, parts.driverSource);

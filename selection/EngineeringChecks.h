@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "core/Tables.h"
 #include "selection/ChosenParts.h"

@@ -6,6 +6,7 @@
 #include "calc/mdlCulcurate.h"
 #include "tests/calc/CalcFixture.h"
 #include "tests/noalloc/CountingNew.h"
+#include "tests/support/ChecksParts.h"
 
 namespace {
 
@@ -15,13 +16,9 @@ protected:
         CalcTest::SetUp();
         BuildSizedBallscrew();
         Culcurate_All();
-        parts.curveSource = CurveSource::Found;
-        parts.curve = {{{0, 1, 3}, {3000, 1, 3}, {5000, 0.5, 1}}};
-        parts.driverSource = DriverSource::Found;
-        parts.energyLimit = 0.001;
-        parts.powerLimit = 0.001;
     }
-    ChosenParts parts;
+    // A driver that absorbs next to nothing: the resistor is sized too.
+    ChosenParts parts = Parts_Falling(0.001, 0.001);
     EngineeringChecks checks;
 };
 

@@ -4,30 +4,18 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/TestState.h"
+#include "tests/selection/ChecksFixture.h"
 #include "units/UnitTable.h"
 
 namespace {
 
-class ChecksChartTest : public StateTest {
+class ChecksChartTest : public ChecksFixture {
 protected:
-    void SetUp() override {
-        StateTest::SetUp();
-        parts.curveSource = CurveSource::Found;
-        parts.curve = {{{0, 1, 3}, {3000, 1, 3}, {5000, 0.5, 1}}};
-        table[1] = {0, 0.1, 3000, 0, 0, 2.7, 0, 3};
-        table[2] = {0, 0.1, 0, 0, 0, -1, 0, 3};
-        table[3] = {0, 0.2, 5500, 0, 0, 0.5, 0, 3};
-    }
     // 800 by 400 pixels: the plot runs from x 64 to 784 and from y 356 up to 16.
     ChecksChart Make() {
-        Checks_Compute(table, 3, 0.9, 0, 0, parts, checks);
+        Compute();
         return Chart_Build(checks, parts.curve, 800, 400);
     }
-
-    ChosenParts parts;
-    PatarnTable table{};
-    EngineeringChecks checks;
 };
 
 TEST_F(ChecksChartTest, AxesRunToRoundNumbersPastEveryPoint) {

@@ -5,26 +5,15 @@
 #include <gtest/gtest.h>
 
 #include "core/Tables.h"
-#include "tests/support/TestState.h"
+#include "tests/selection/ChecksFixture.h"
 #include "units/UnitTable.h"
 
 namespace {
 
-class ChecksGridTest : public StateTest {
+class ChecksGridTest : public ChecksFixture {
 protected:
-    void SetUp() override {
-        StateTest::SetUp();
-        parts.curveSource = CurveSource::Found;
-        parts.curve = {{{0, 1, 3}, {3000, 1, 3}, {5000, 0.5, 1}}};
-        parts.driverSource = DriverSource::Found;
-        parts.energyLimit = 10;
-        // 0 to 3000 r/min at 2.7 N m, back to 0 at -1, then up to 5500 at 0.5.
-        table[1] = {0, 0.1, 3000, 0, 0, 2.7, 0, 3};
-        table[2] = {0, 0.1, 0, 0, 0, -1, 0, 3};
-        table[3] = {0, 0.2, 5500, 0, 0, 0.5, 0, 3};
-    }
     Grid Make(double peak = 12, double mean = 3) {
-        Checks_Compute(table, 3, 0.9, peak, mean, parts, checks);
+        Compute(peak, mean);
         return Checks_Grid(checks);
     }
     static int Find(const Grid& g, const std::string& check) {
@@ -32,10 +21,6 @@ protected:
             if (g.Cell(row, 1).text == check) return row;
         return -1;
     }
-
-    ChosenParts parts;
-    PatarnTable table{};
-    EngineeringChecks checks;
 };
 
 TEST_F(ChecksGridTest, EveryIntervalHasARowWithItsVerdict) {

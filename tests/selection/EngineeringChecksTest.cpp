@@ -1,28 +1,19 @@
-// The engineering checks (selection/EngineeringChecks) on patterns and parts
-// made by hand, each figure worked out beside its test.
+// The engineering checks (selection/EngineeringChecks) on patterns made by
+// hand against the falling motor of Parts_Falling and a driver of 10 J and
+// 5 W, each figure worked out beside its test.
 #include "selection/EngineeringChecks.h"
 
 #include <gtest/gtest.h>
 
 #include <initializer_list>
 
+#include "tests/support/ChecksParts.h"
+
 namespace {
 
 struct Row {
     double dt, speed, torque, regeneration = 0;
 };
-
-// Flat at 1 and 3 N m to 3000 r/min, falling to 0.5 and 1 N m at 5000 r/min;
-// the driver absorbs 10 J and 5 W.
-ChosenParts Parts() {
-    ChosenParts p;
-    p.curveSource = CurveSource::Found;
-    p.curve = {{{0, 1, 3}, {3000, 1, 3}, {5000, 0.5, 1}}};
-    p.driverSource = DriverSource::Found;
-    p.energyLimit = 10;
-    p.powerLimit = 5;
-    return p;
-}
 
 class ChecksTest : public ::testing::Test {
 protected:
@@ -44,7 +35,7 @@ protected:
 
     PatarnTable table{};
     int n = 0;
-    ChosenParts parts = Parts();
+    ChosenParts parts = Parts_Falling(10, 5);
     EngineeringChecks out;
 };
 
@@ -173,6 +164,10 @@ TEST_F(ChecksTest, ATorqueMarkedAsNotComputedIsNotJudged) {
     EXPECT_EQ(Interval(1).state, CheckState::NotComputed);
     EXPECT_EQ(out.tightest, 2);
     EXPECT_EQ(out.mean.state, CheckState::NotComputed);
+    parts.curveSource = CurveSource::NoCurve;  // not computed whether or not there is a curve
+    Compute(kOver);
+    EXPECT_EQ(Interval(1).state, CheckState::NotComputed);
+    EXPECT_EQ(Interval(2).state, CheckState::NoCurve);
 }
 
 TEST_F(ChecksTest, RegenerationExactlyAtTheLimitNeedsNoResistor) {
@@ -224,7 +219,9 @@ TEST_F(ChecksTest, WithoutADriverTheResistorCannotBeTold) {
     Compute(0, 100, 100);
     EXPECT_EQ(out.energy.state, RegenState::NoDriver);
     EXPECT_EQ(out.resistor, ResistorState::Unknown);
-    parts = Parts();
+    Compute(0, kOver, 1);
+    EXPECT_EQ(out.energy.state, RegenState::NotComputed);  // not computed whether or not there is a driver
+    parts = Parts_Falling(10, 5);
     Compute(0, kOver, 1);
     EXPECT_EQ(out.energy.state, RegenState::NotComputed);
     EXPECT_EQ(out.resistor, ResistorState::Unknown);
