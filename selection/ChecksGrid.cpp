@@ -113,7 +113,7 @@ private:
         const int row = Add(JudgeString(1), check);
         grid_.Cell(row, Needed).text = Num_Format(value, 0, 1);
         grid_.Cell(row, Unit).text = unit;
-        grid_.Cell(row, Remark).text = "needed; rate it for this, " + margin + " included";
+        grid_.Cell(row, Remark).text = "needed, " + margin + " included";
     }
 
     Grid& grid_;

@@ -17,6 +17,13 @@ CheckState Judge_Share(double share) {
     return CheckState::Fail;
 }
 
+// (offered - needed) / the larger of the two, in percent: the share of the
+// offer left unused, or below 0 the share of the need that cannot be met.
+double Margin(double offered, double needed) {
+    const double larger = std::max(offered, needed);
+    return larger > 0 ? (offered - needed) / larger * 100 : 0;
+}
+
 // The torque against the curve over the speeds low to high.
 TorqueCheck Torque_Check(double low, double high, double torque, const ChosenParts& parts,
                          double CurvePoint::*member) {
@@ -29,8 +36,7 @@ TorqueCheck Torque_Check(double low, double high, double torque, const ChosenPar
     const CurveOffer offer = parts.curve.LowestOver(low, high, member);
     c.offered = offer.torque;
     c.aboveTop = offer.aboveTop;
-    const double larger = std::max(c.offered, c.torque);
-    c.margin = offer.aboveTop ? -100 : larger > 0 ? (c.offered - c.torque) / larger * 100 : 0;
+    c.margin = offer.aboveTop ? -100 : Margin(c.offered, c.torque);
     if (offer.aboveTop) c.state = CheckState::Fail;
     else if (c.offered > 0) c.state = Judge_Share(c.torque / c.offered);
     else c.state = c.torque > 0 ? CheckState::Fail : CheckState::Pass;
@@ -62,11 +68,18 @@ RegenCheck Regen_Check(double value, const std::optional<double>& limit, DriverS
         return c;
     }
     c.limit = *limit;
-    c.margin = (c.limit - value) / c.limit * 100;
+    c.margin = Margin(c.limit, value);
     const bool over = value > c.limit && !Same_Single(value, c.limit);
     c.state = over ? RegenState::Exceeded : RegenState::Within;
     c.excess = over ? value - c.limit : 0;
     return c;
+}
+
+// What an external resistor takes of a regeneration: all beyond the driver's
+// limit, or all of it where the driver gives none.
+double Resistor_Share(const RegenCheck& c) {
+    const bool limited = c.state == RegenState::Within || c.state == RegenState::Exceeded;
+    return std::max(0.0, c.value - (limited ? c.limit : 0));
 }
 
 }  // namespace
@@ -99,8 +112,8 @@ void Checks_Compute(const PatarnTable& table, int n, double effectiveTorque, dou
     out.power = Regen_Check(regenMean, parts.powerLimit, parts.driverSource);
     if (out.energy.state == RegenState::Exceeded || out.power.state == RegenState::Exceeded) {
         out.resistor = ResistorState::Needed;
-        out.resistorEnergy = out.energy.excess * (1 + kResistorMargin);
-        out.resistorPower = out.power.excess * (1 + kResistorMargin);
+        out.resistorEnergy = Resistor_Share(out.energy) * (1 + kResistorMargin);
+        out.resistorPower = Resistor_Share(out.power) * (1 + kResistorMargin);
     } else if (parts.driverSource == DriverSource::Found && out.energy.state != RegenState::NotComputed &&
                out.power.state != RegenState::NotComputed) {
         out.resistor = ResistorState::NotNeeded;

@@ -51,12 +51,14 @@ enum class RegenState {
 struct RegenCheck {
     double value = 0;   // J per braking, or W on the mean
     double limit = 0;   // the driver's limit, when there is one
-    double margin = 0;  // (limit - value) / limit, percent
+    double margin = 0;  // (limit - value) / the larger of the two, percent
     double excess = 0;  // what the driver cannot absorb
     RegenState state = RegenState::NoDriver;
 };
 
-// The brake resistor takes the excess with this margin on top.
+// Once a limit is exceeded, an external brake resistor takes, per braking
+// and continuously, what lies beyond the driver's limits (all of a quantity
+// whose limit is not given), with this margin on top.
 inline constexpr double kResistorMargin = 0.2;
 
 enum class ResistorState { NotNeeded, Needed, Unknown };

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 
 #include "selection/ChecksGrid.h"
 #include "selection/DriverJudge.h"
@@ -9,9 +10,8 @@
 
 namespace {
 
-const QColor kContinuous(0, 90, 200);
-const QColor kPeak(0, 150, 70);
-const QColor kMean(120, 0, 160);
+const QPen kContinuous(QColor(0, 90, 200), 2);
+const QPen kPeak(QColor(0, 150, 70), 2, Qt::DashLine);
 
 QPointF Pixel(const ChartPoint& p) { return {p.x, p.y}; }
 
@@ -29,13 +29,68 @@ QColor State_Color(CheckState state, const QPalette& palette) {
     return Verdict_Color(JudgeColor(Check_Verdict(state)), palette);
 }
 
-void Legend(QPainter& painter, QPointF at, const QColor& color, bool line, const QString& text) {
+// The effective torque at the mean speed: a square in its verdict's colour.
+void Mean_Mark(QPainter& painter, QPointF at, const QColor& color) {
     painter.setPen(QPen(color, 2));
-    painter.setBrush(color);
-    if (line) painter.drawLine(at + QPointF(0, -4), at + QPointF(18, -4));
-    else painter.drawEllipse(at + QPointF(9, -4), 3.5, 3.5);
-    painter.setPen(QPen(Qt::black));
-    painter.drawText(at + QPointF(24, 0), text);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(at - QPointF(5, 5), at + QPointF(5, 5)));
+}
+
+// The grid, the frame, the ticks with their numbers and the two titles.
+void Draw_Axes(QPainter& painter, const ChecksChart& chart, const QFontMetricsF& metrics, double height) {
+    const QRectF plot(QPointF(chart.left, chart.top), QPointF(chart.right, chart.bottom));
+    painter.setPen(QPen(QColor(225, 225, 225), 1));
+    for (const ChartTick& t : chart.xTicks) painter.drawLine(QPointF(t.at, plot.top()), QPointF(t.at, plot.bottom()));
+    for (const ChartTick& t : chart.yTicks) painter.drawLine(QPointF(plot.left(), t.at), QPointF(plot.right(), t.at));
+    painter.setPen(QPen(Qt::black, 1));
+    painter.drawRect(plot);
+    for (const ChartTick& t : chart.xTicks) {
+        painter.drawLine(QPointF(t.at, plot.bottom()), QPointF(t.at, plot.bottom() + 4));
+        const QString label = QString::fromStdString(t.label);
+        painter.drawText(QPointF(t.at - metrics.horizontalAdvance(label) / 2, plot.bottom() + 6 + metrics.ascent()),
+                         label);
+    }
+    for (const ChartTick& t : chart.yTicks) {
+        painter.drawLine(QPointF(plot.left() - 4, t.at), QPointF(plot.left(), t.at));
+        const QString label = QString::fromStdString(t.label);
+        painter.drawText(QPointF(plot.left() - 7 - metrics.horizontalAdvance(label), t.at + metrics.ascent() / 2 - 1),
+                         label);
+    }
+    const QString xTitle = QString::fromStdString(chart.xTitle);
+    painter.drawText(QPointF((plot.left() + plot.right() - metrics.horizontalAdvance(xTitle)) / 2, height - 6), xTitle);
+    painter.save();
+    painter.translate(14, (plot.top() + plot.bottom()) / 2);
+    painter.rotate(-90);
+    const QString yTitle = QString::fromStdString(chart.yTitle);
+    painter.drawText(QPointF(-metrics.horizontalAdvance(yTitle) / 2, 0), yTitle);
+    painter.restore();
+}
+
+// The legend in a framed box at the top right of the plot.
+void Draw_Legend(QPainter& painter, const ChecksChart& chart, const QFontMetricsF& metrics) {
+    const QString texts[] = {"continuous torque", "peak torque", "intervals (start, end)", "effective torque, mean speed"};
+    double widest = 0;
+    for (const QString& text : texts) widest = std::max(widest, metrics.horizontalAdvance(text));
+    const double line = metrics.height() + 2, width = widest + 36;
+    const QPointF at(chart.right - width - 4, chart.top + 8 + metrics.ascent());
+    painter.setPen(QPen(QColor(160, 160, 160), 1));
+    painter.setBrush(Qt::white);
+    painter.drawRect(QRectF(at - QPointF(6, metrics.ascent() + 4), QSizeF(width, 4 * line + 6)));
+    for (int i = 0; i < 4; ++i) {
+        const QPointF row = at + QPointF(0, i * line);
+        if (i < 2) {
+            painter.setPen(i == 0 ? kContinuous : kPeak);
+            painter.drawLine(row + QPointF(0, -4), row + QPointF(18, -4));
+        } else if (i == 2) {
+            painter.setPen(Qt::black);
+            painter.setBrush(Qt::black);
+            painter.drawEllipse(row + QPointF(9, -4), 3.5, 3.5);
+        } else {
+            Mean_Mark(painter, row + QPointF(9, -4), Qt::black);
+        }
+        painter.setPen(Qt::black);
+        painter.drawText(row + QPointF(24, 0), texts[i]);
+    }
 }
 
 }  // namespace
@@ -64,35 +119,11 @@ void ChecksChartView::resizeEvent(QResizeEvent* event) {
 void ChecksChartView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
-    const QRectF plot(QPointF(chart_.left, chart_.top), QPointF(chart_.right, chart_.bottom));
     const QFontMetricsF metrics(font());
-    painter.setPen(QPen(QColor(225, 225, 225), 1));
-    for (const ChartTick& t : chart_.xTicks) painter.drawLine(QPointF(t.at, plot.top()), QPointF(t.at, plot.bottom()));
-    for (const ChartTick& t : chart_.yTicks) painter.drawLine(QPointF(plot.left(), t.at), QPointF(plot.right(), t.at));
-    painter.setPen(QPen(Qt::black, 1));
-    painter.drawRect(plot);
-    for (const ChartTick& t : chart_.xTicks) {
-        painter.drawLine(QPointF(t.at, plot.bottom()), QPointF(t.at, plot.bottom() + 4));
-        const QString label = QString::fromStdString(t.label);
-        painter.drawText(QPointF(t.at - metrics.horizontalAdvance(label) / 2, plot.bottom() + 6 + metrics.ascent()), label);
-    }
-    for (const ChartTick& t : chart_.yTicks) {
-        painter.drawLine(QPointF(plot.left() - 4, t.at), QPointF(plot.left(), t.at));
-        const QString label = QString::fromStdString(t.label);
-        painter.drawText(QPointF(plot.left() - 7 - metrics.horizontalAdvance(label), t.at + metrics.ascent() / 2 - 1), label);
-    }
-    const QString xTitle = QString::fromStdString(chart_.xTitle);
-    painter.drawText(QPointF((plot.left() + plot.right() - metrics.horizontalAdvance(xTitle)) / 2, height() - 6), xTitle);
-    painter.save();
-    painter.translate(14, (plot.top() + plot.bottom()) / 2);
-    painter.rotate(-90);
-    const QString yTitle = QString::fromStdString(chart_.yTitle);
-    painter.drawText(QPointF(-metrics.horizontalAdvance(yTitle) / 2, 0), yTitle);
-    painter.restore();
-
+    Draw_Axes(painter, chart_, metrics, height());
     painter.setRenderHint(QPainter::Antialiasing);
-    Polyline(painter, chart_.continuous, QPen(kContinuous, 2));
-    Polyline(painter, chart_.peak, QPen(kPeak, 2, Qt::DashLine));
+    Polyline(painter, chart_.continuous, kContinuous);
+    Polyline(painter, chart_.peak, kPeak);
     for (const ChartMark& m : chart_.intervals) {
         const QColor color = State_Color(m.state, palette());
         painter.setPen(QPen(color, 1.5));
@@ -100,20 +131,6 @@ void ChecksChartView::paintEvent(QPaintEvent*) {
         painter.setBrush(color);
         for (const ChartPoint& p : m.ends) painter.drawEllipse(Pixel(p), 3.5, 3.5);
     }
-    if (chart_.hasMean) {
-        painter.setPen(QPen(kMean, 2));
-        painter.setBrush(Qt::NoBrush);
-        const QPointF p = Pixel(chart_.mean.from);
-        painter.drawRect(QRectF(p - QPointF(5, 5), p + QPointF(5, 5)));
-    }
-    const QPointF at(plot.right() - 190, plot.top() + 16);
-    const double line = metrics.height() + 2;
-    Legend(painter, at, kContinuous, true, "continuous torque");
-    Legend(painter, at + QPointF(0, line), kPeak, true, "peak torque");
-    Legend(painter, at + QPointF(0, 2 * line), Qt::black, false, "intervals (start, end)");
-    painter.setPen(QPen(kMean, 2));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(at + QPointF(5, 3 * line - 8), QSizeF(8, 8)));
-    painter.setPen(QPen(Qt::black));
-    painter.drawText(at + QPointF(24, 3 * line), "effective torque, mean speed");
+    if (chart_.hasMean) Mean_Mark(painter, Pixel(chart_.mean.from), State_Color(chart_.mean.state, palette()));
+    Draw_Legend(painter, chart_, metrics);
 }

@@ -47,8 +47,7 @@ frmChecks::frmChecks(QWidget* parent) : QWidget(parent, Qt::Window) {
     auto* split = new QSplitter(Qt::Vertical, this);
     split->addWidget(picChart);
     split->addWidget(vsfChecks);
-    split->setStretchFactor(0, 3);
-    split->setStretchFactor(1, 2);
+    split->setSizes({380, 420});
     auto* keys = new QHBoxLayout;
     keys->addStretch();
     keys->addWidget(cmdClose);
@@ -57,7 +56,7 @@ frmChecks::frmChecks(QWidget* parent) : QWidget(parent, Qt::Window) {
     main->addWidget(split, 1);
     main->addLayout(keys);
     connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
-    resize(900, 760);
+    resize(960, 900);
 }
 
 void frmChecks::showEvent(QShowEvent* event) {

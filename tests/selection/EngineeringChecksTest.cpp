@@ -183,12 +183,12 @@ TEST_F(ChecksTest, RegenerationExactlyAtTheLimitNeedsNoResistor) {
 }
 
 TEST_F(ChecksTest, RegenerationAboveTheLimitSizesTheResistor) {
-    // 12 J against 10 J: the resistor takes 2 J, rated 2 * 1.2 = 2.4 J; the power is within.
+    // 12 J against 10 J: the resistor takes 2 J, rated 2 * 1.2 = 2.4 J; 4 W of 5 W is within.
     Pattern({{0.1, 3000, 1}});
     Compute(0, 12, 4);
     EXPECT_EQ(out.energy.state, RegenState::Exceeded);
     EXPECT_DOUBLE_EQ(out.energy.excess, 2);
-    EXPECT_DOUBLE_EQ(out.energy.margin, -20);
+    EXPECT_DOUBLE_EQ(out.energy.margin, -2.0 / 12 * 100);  // the share of the 12 J not absorbed
     EXPECT_EQ(out.power.state, RegenState::Within);
     EXPECT_DOUBLE_EQ(out.power.margin, 20);
     EXPECT_EQ(out.resistor, ResistorState::Needed);
@@ -207,6 +207,12 @@ TEST_F(ChecksTest, ABlankLimitIsNoLimit) {
     Compute(0, 1000, 4);
     EXPECT_EQ(out.energy.state, RegenState::NoLimit);
     EXPECT_EQ(out.resistor, ResistorState::NotNeeded);
+    // Once the power needs a resistor, it takes all of each braking's energy,
+    // none of which the driver is known to absorb: 1000 J, 1200 J rated.
+    Compute(0, 1000, 8);
+    EXPECT_EQ(out.resistor, ResistorState::Needed);
+    EXPECT_DOUBLE_EQ(out.resistorEnergy, 1200);
+    EXPECT_DOUBLE_EQ(out.resistorPower, 3.6);
     parts.powerLimit.reset();
     Compute(0, 1000, 1000);
     EXPECT_EQ(out.power.state, RegenState::NoLimit);

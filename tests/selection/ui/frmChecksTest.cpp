@@ -5,14 +5,19 @@
 
 #include <QAction>
 #include <QLabel>
+#include <filesystem>
 #include <memory>
 
 #include "calc/mdlCulcurate.h"
+#include "common/ui/FileDialog.h"
+#include "core/PatarnRows.h"
 #include "selection/ChecksGrid.h"
 #include "selection/ui/ChecksChartView.h"
 #include "selection/ui/GridView.h"
 #include "tests/selection/CatalogueFixture.h"
 #include "tests/selection/SizedDocument.h"
+#include "tests/support/CliRun.h"
+#include "tests/support/JsonRead.h"
 #include "tests/support/WorkbenchFixture.h"
 #include "units/UnitTable.h"
 
@@ -135,6 +140,40 @@ TEST_F(frmChecksTest, AHiddenWindowComputesNothing) {
     EXPECT_EQ(Cell(3, 2), "3000 to 3000");
     Open();
     EXPECT_EQ(Cell(3, 2), "3000 to 6000");
+}
+
+// Each example application opened in the program shows its motor's curves
+// with every operating point, and the command line prints the same table.
+TEST_F(frmChecksTest, EveryExampleShowsItsCurvesAndTheFiguresOfTheCommandLine) {
+    std::filesystem::copy_file(Catalogue_Bundled(), appDir.File("Series.db"));
+    Open();
+    int examples = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(TORVANE_SOURCE_DIR "/examples")) {
+        if (entry.path().extension() != ".AP2") continue;
+        ++examples;
+        const std::string path = entry.path().string();
+        DirtyFlag = 0;
+        FileDialog_Script({QString::fromStdString(path)});
+        w->Action("mnuFileOpen")->trigger();
+        ASSERT_EQ(MotorSelected, kMotorChosen) << path;
+        const ChecksChart& chart = Ctl<ChecksChartView>(w->ChecksWindow(), "picChart")->Chart();
+        EXPECT_EQ(chart.peak.size(), 4u) << path;
+        EXPECT_EQ(chart.intervals.size(), static_cast<std::size_t>(Patarn_CountRows(Patarn))) << path;
+        EXPECT_TRUE(chart.hasMean) << path;
+
+        const CliRun r = RunCli(appDir, "checks " + Quote(path) + " --json");
+        ASSERT_EQ(r.code, 0) << r.err;
+        Json doc;
+        ASSERT_TRUE(Json_Parse(r.out, doc)) << r.out;
+        const Json& rows = doc["table"]["rows"];
+        auto* table = Ctl<GridView>(w->ChecksWindow(), "vsfChecks");
+        ASSERT_EQ(rows.items.size(), static_cast<std::size_t>(table->rowCount())) << path;
+        for (int row = 0; row < table->rowCount(); ++row)
+            for (int col = 0; col < kChecksCols; ++col)
+                EXPECT_EQ(rows[row][col]["text"].text, Cell(row + kFixedRows, col).toStdString())
+                    << path << ' ' << row << ' ' << col;
+    }
+    EXPECT_EQ(examples, 6);
 }
 
 }  // namespace
