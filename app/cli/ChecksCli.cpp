@@ -2,10 +2,9 @@
 
 #include <iostream>
 
+#include "app/cli/CliOpen.h"
 #include "app/cli/GridPrint.h"
 #include "app/cli/Json.h"
-#include "commands/Activation.h"
-#include "core/Startup.h"
 #include "core/Tables.h"
 #include "selection/ChecksGrid.h"
 
@@ -113,11 +112,7 @@ ChecksCli::ChecksCli(CLI::App& app) {
 
 int ChecksCli::Run() const {
     if (!checks_->parsed()) return -1;
-    Main_Prepare(file_);
-    if (!Main_Activate()) {
-        std::cerr << "torvane-cli: " << file_ << " could not be loaded\n";
-        return 1;
-    }
+    if (!Cli_Open(file_)) return 1;
     const ChosenParts parts = Parts_OfDocument();
     EngineeringChecks checks;
     Checks_OfDocument(parts, checks);
