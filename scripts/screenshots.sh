@@ -5,7 +5,9 @@
 # meca.png: the mechanical system question of a start without a file;
 # list1.png, list2.png: the two pages of the selection wizard over a pushing
 # ballscrew whose judgement shows OK, FAIR and NG; recommend.png: the list of
-# its motor page's "Recommend...".
+# its motor page's "Recommend...";
+# checks.png: the engineering checks over that ballscrew with a motor and a
+# driver taken on, and checks-NAME.png over each example examples/NAME.AP2.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -59,3 +61,23 @@ HOME="$work/home-recommend" xvfb-run -a -s "-screen 0 1400x950x24" bash -c "
     import -window root \"$out/recommend.png\"
     kill %1" 2>/dev/null
 echo "$out/recommend.png"
+
+# The engineering checks: Tools > Engineering Checks over a file.
+checks() {  # checks PNG FILE
+    HOME="$work/home-$1" xvfb-run -a -s "-screen 0 1400x950x24" bash -c "
+        \"$build/torvane\" \"$2\" & sleep 4
+        xdotool search --name '^Torvane-' windowfocus --sync; sleep 0.5
+        xdotool key alt+t; sleep 0.5; xdotool key e; sleep 2
+        import -window root \"$out/$1\"
+        kill %1" 2>/dev/null
+    echo "$out/$1"
+}
+"$build/torvane-cli" select "$work/ballscrew-pushing-600N.AP2" --motor TVM-A040S3 --driver TVD-A04 \
+    --out "$work/checks.AP2" >/dev/null
+checks checks.png "$work/checks.AP2"
+for example in examples/*.AP2; do
+    [ -e "$example" ] || continue
+    name="$(basename "$example" .AP2)"
+    cp "$example" "$work/$name.AP2"
+    checks "checks-$name.png" "$work/$name.AP2"
+done

@@ -27,6 +27,7 @@
 #include "pattern/ui/PatarnGrid.h"
 #include "pattern/ui/PatternGraph.h"
 #include "pattern/ui/frmPatarn.h"
+#include "selection/ui/frmChecks.h"
 #include "selection/ui/frmList1.h"
 #include "workbench/ChainStrip.h"
 #include "workbench/ResultGrid.h"
@@ -58,6 +59,7 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
     connect(patarn_, &frmPatarn::built, this, &frmMain::Disp_Refresh);
     unit_ = new frmUnit(this);
     connect(unit_, &frmUnit::applied, this, &frmMain::Disp_Refresh);
+    checks_ = new frmChecks(this);
     resize(1180, 760);
     Window_Load(this, kMainWindowKeys);
     Disp_Reset();
@@ -90,6 +92,7 @@ void frmMain::Disp_Reset() {
     infobox_->Infobox_Clear();
     vsfPatarn->scrollToTop();
     vsfPatarn->setCurrentCell(0, 1);
+    checks_->Disp_Checks();
 }
 
 void frmMain::Disp_Headers() {
@@ -111,6 +114,7 @@ void frmMain::Disp_Refresh() {
     infobox_->Disp_Selected();
     Disp_ElementList();
     Disp_Strip(strip->First());
+    checks_->Disp_Checks();
 }
 
 void frmMain::Disp_ElementList() { infobox_->Disp_ElementList(); }
@@ -236,6 +240,12 @@ void frmMain::mnuMortorSelect_Click() {
     QApplication::restoreOverrideCursor();
 }
 
+void frmMain::mnuChecks_Click() {
+    checks_->show();
+    checks_->raise();
+    checks_->activateWindow();
+}
+
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) Form_Activate();
@@ -275,6 +285,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     if (list1_) list1_->close();
     meca_->hide();
     if (unit_->isVisible()) unit_->close();
+    checks_->close();
     event->accept();
 }
 
@@ -308,6 +319,7 @@ void frmMain::Disp_PatternAndResults() {
     picTorquePatarn->Disp_Graph(Patarn, PatternRowCount);
     Disp_Headers();
     vsfMotor->Disp_Result(MotorSelected);
+    checks_->Disp_Checks();
 }
 
 void frmMain::mnuInsert_Click() {

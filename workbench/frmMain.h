@@ -18,6 +18,7 @@ class ChainStrip;
 class PatarnGrid;
 class PatternGraph;
 class ResultGrid;
+class frmChecks;
 class frmInfobox;
 class frmItem;
 class frmList1;
@@ -51,6 +52,7 @@ public:
     bool mnuFileSave_Click();
     bool mnuFileSaveAs_Click();
     void mnuMortorSelect_Click();
+    void mnuChecks_Click();
     void mnuCulcurate_Click();
     // The report of the document, as the print dialog would print it, into a PDF file.
     void mnuFileExport_Click();
@@ -67,6 +69,7 @@ public:
     frmUnit* UnitWindow() const { return unit_; }
     frmItem* ItemWindow() const { return item_; }
     frmInfobox* Infobox() const { return infobox_; }
+    frmChecks* ChecksWindow() const { return checks_; }
     // The motor selection wizard while it is open.
     frmList1* Wizard() const;
 
@@ -113,5 +116,6 @@ private:
     frmUnit* unit_ = nullptr;
     frmItem* item_ = nullptr;
     frmInfobox* infobox_ = nullptr;
+    frmChecks* checks_ = nullptr;
     QPointer<frmList1> list1_;
 };

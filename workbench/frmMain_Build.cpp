@@ -130,6 +130,7 @@ void frmMain::BuildMenus() {
     QMenu* tools = menuBar()->addMenu("Tools(&T)");
     tools->setObjectName("mnuEdit");
     add(tools, "mnuMortorSelect", "Motor Selection(&S)", {}, [this] { mnuMortorSelect_Click(); });
+    add(tools, "mnuChecks", "Engineering Checks(&E)", {}, [this] { mnuChecks_Click(); });
     tools->addSeparator();
     add(tools, "mnuElementSelect", "Component Selection(&I)", {}, [this] { mnuElementSelect_Click(); });
     tools->addSeparator();

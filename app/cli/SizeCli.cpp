@@ -2,9 +2,8 @@
 
 #include <iostream>
 
+#include "app/cli/CliOpen.h"
 #include "app/cli/SizePrint.h"
-#include "commands/Activation.h"
-#include "core/Startup.h"
 
 SizeCli::SizeCli(CLI::App& app) {
     size_ = app.add_subcommand("size", "Open an application file and print its chain, pattern and sizing values");
@@ -14,11 +13,7 @@ SizeCli::SizeCli(CLI::App& app) {
 
 int SizeCli::Run() const {
     if (!size_->parsed()) return -1;
-    Main_Prepare(file_);
-    if (!Main_Activate()) {
-        std::cerr << "torvane-cli: " << file_ << " could not be loaded\n";
-        return 1;
-    }
+    if (!Cli_Open(file_)) return 1;
     if (json_)
         Size_PrintJson(std::cout);
     else

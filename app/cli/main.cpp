@@ -8,6 +8,7 @@
 
 #include "app/cli/CatalogueCli.h"
 #include "app/cli/ChainPrint.h"
+#include "app/cli/ChecksCli.h"
 #include "app/cli/Json.h"
 #include "app/cli/ReportCli.h"
 #include "app/cli/ResultsCli.h"
@@ -62,6 +63,7 @@ int main(int argc, char** argv) {
     ResultsCli results(app);
     ReportCli report(app);
     SizeCli size(app);
+    ChecksCli checks(app);
     CatalogueCli catalogue(app);
 
     try {
@@ -76,6 +78,7 @@ int main(int argc, char** argv) {
         if (const int code = results.Run(); code >= 0) return code;
         if (const int code = report.Run(); code >= 0) return code;
         if (const int code = size.Run(); code >= 0) return code;
+        if (const int code = checks.Run(); code >= 0) return code;
         if (const int code = catalogue.Run(); code >= 0) return code;
         return 2;
     };

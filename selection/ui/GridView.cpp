@@ -18,14 +18,6 @@ Qt::Alignment Alignment(CellAlign align) {
     return Qt::AlignRight | Qt::AlignVCenter;
 }
 
-// The system's colour numbers are red + green * 256 + blue * 65536; the
-// negative one is the window text colour of the palette.
-QColor Color(std::string_view number, const QPalette& palette) {
-    if (number == kColorWindowText) return palette.color(QPalette::WindowText);
-    const long value = std::stol(std::string(number));
-    return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
-}
-
 // The current row is marked by a light background under which every text
 // keeps its verdict colour.
 class KeepColours : public QStyledItemDelegate {
@@ -41,6 +33,12 @@ protected:
 };
 
 }  // namespace
+
+QColor Verdict_Color(std::string_view number, const QPalette& palette) {
+    if (number == kColorWindowText) return palette.color(QPalette::WindowText);
+    const long value = std::stol(std::string(number));
+    return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
+}
 
 GridView::GridView(std::span<const GridColumn> columns, QWidget* parent)
     : QTableWidget(0, static_cast<int>(columns.size()), parent), columns_(columns) {
@@ -84,7 +82,7 @@ void GridView::Show(const Grid& grid) {
             QFont font = item->font();
             font.setBold(cell.bold);
             item->setFont(font);
-            item->setForeground(Color(cell.color, palette()));
+            item->setForeground(Verdict_Color(cell.color, palette()));
             setItem(row - kFixedRows, col, item);
         }
     }

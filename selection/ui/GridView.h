@@ -10,6 +10,10 @@
 
 #include "selection/Grid.h"
 
+// A colour of the system, red + green * 256 + blue * 65536 in text form; the
+// negative number is the window text colour of the palette.
+QColor Verdict_Color(std::string_view number, const QPalette& palette);
+
 class GridView : public QTableWidget {
     Q_OBJECT
 public:

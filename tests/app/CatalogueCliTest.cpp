@@ -2,6 +2,11 @@
 // its rows checked, and the exit codes of each outcome.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
 #include "tests/selection/CatalogueFixture.h"
 #include "tests/support/CliRun.h"
 
@@ -9,12 +14,21 @@ namespace {
 
 const std::string kSchema = std::string(TORVANE_SOURCE_DIR) + "/data/catalogue/10_schema.sql";
 
+// Every SQL file of the bundled catalogue, quoted, in the order of their names as the build takes them.
+std::string Bundled_SqlFiles() {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(std::string(TORVANE_SOURCE_DIR) + "/data/catalogue"))
+        if (entry.path().extension() == ".sql") names.push_back(entry.path().string());
+    std::ranges::sort(names);
+    std::string files;
+    for (const std::string& name : names) files += " " + Quote(name);
+    return files;
+}
+
 class CatalogueCliTest : public StateTest {};
 
 TEST_F(CatalogueCliTest, BuildMakesTheBundledCatalogueFromItsSqlText) {
-    std::string files;
-    for (const char* name : {"10_schema", "20_series", "30_motors", "40_drivers"})
-        files += " " + Quote(std::string(TORVANE_SOURCE_DIR) + "/data/catalogue/" + name + ".sql");
+    const std::string files = Bundled_SqlFiles();
     const CliRun run = RunCli(appDir, "catalogue build " + Quote(appDir.File("built.db")) + files);
     ASSERT_EQ(run.code, 0) << run.err;
     EXPECT_EQ(ReadFile(appDir.File("built.db")), ReadFile(Catalogue_Bundled()));
@@ -69,9 +83,7 @@ std::string Readme_Sql() {
 TEST_F(CatalogueCliTest, TheReadmesSeriesAddsToTheBundledCatalogueAndChecksClean) {
     ASSERT_FALSE(Readme_Sql().empty());
     WriteFile(appDir.File("my_series.sql"), Readme_Sql());
-    std::string files;
-    for (const char* name : {"10_schema", "20_series", "30_motors", "40_drivers"})
-        files += " " + Quote(std::string(TORVANE_SOURCE_DIR) + "/data/catalogue/" + name + ".sql");
+    const std::string files = Bundled_SqlFiles();
     ASSERT_EQ(RunCli(appDir, "catalogue build " + Quote(appDir.File("Series.db")) + files + " " +
                                  Quote(appDir.File("my_series.sql")))
                   .code,

@@ -5,7 +5,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -14,7 +13,7 @@
 #include "commands/Activation.h"
 #include "core/Tables.h"
 #include "tests/support/CliRun.h"
-#include "tests/support/JsonReader.h"
+#include "tests/support/JsonRead.h"
 #include "tests/support/TestState.h"
 
 namespace {
@@ -137,7 +136,7 @@ TEST_F(CliTest, JsonOfTemplateOneHoldsTheSameChain) {
     const CliRun r = RunCli(appDir, "template 1 --json");
     ASSERT_EQ(r.code, 0) << r.err;
     Json doc;
-    ASSERT_TRUE(JsonReader(r.out).Parse(doc)) << r.out;
+    ASSERT_TRUE(Json_Parse(r.out, doc)) << r.out;
     EXPECT_EQ(doc["template"].number, 1);
     EXPECT_EQ(doc["name"].text, "Horizontal ballscrew");
     EXPECT_EQ(doc["elementCount"].number, 4);
@@ -171,7 +170,7 @@ TEST_F(CliTest, JsonOfTemplateSevenHoldsTheRackAndPinion) {
     const CliRun r = RunCli(appDir, "template 7 --json");
     ASSERT_EQ(r.code, 0) << r.err;
     Json doc;
-    ASSERT_TRUE(JsonReader(r.out).Parse(doc)) << r.out;
+    ASSERT_TRUE(Json_Parse(r.out, doc)) << r.out;
     EXPECT_EQ(doc["name"].text, "Rack and pinion");
     ASSERT_EQ(doc["elements"].items.size(), 4u);
     EXPECT_EQ(doc["elements"][2]["type"].number, 16);
@@ -185,7 +184,7 @@ TEST_F(CliTest, EveryTemplateNumberRuns) {
         const CliRun r = RunCli(appDir, "template " + std::to_string(n) + " --json");
         ASSERT_EQ(r.code, 0) << n << r.err;
         Json doc;
-        ASSERT_TRUE(JsonReader(r.out).Parse(doc)) << n;
+        ASSERT_TRUE(Json_Parse(r.out, doc)) << n;
         EXPECT_EQ(doc["elements"].items.size(), counts[n]) << n;
         EXPECT_EQ(doc["elementCount"].number, counts[n]) << n;
     }
@@ -199,7 +198,7 @@ TEST_F(CliTest, EveryTemplateShowsTheInertiaItsActivationComputes) {
         const CliRun r = RunCli(appDir, "template " + std::to_string(n) + " --json");
         ASSERT_EQ(r.code, 0) << r.err;
         Json doc;
-        ASSERT_TRUE(JsonReader(r.out).Parse(doc));
+        ASSERT_TRUE(Json_Parse(r.out, doc));
         State_Reset();
         MecaResult = 1;
         MecaTemplateNo = n;

@@ -11,7 +11,7 @@
 #include "selection/mdlDataBase.h"
 #include "tests/selection/CatalogueFixture.h"
 #include "tests/support/CliRun.h"
-#include "tests/support/JsonReader.h"
+#include "tests/support/JsonRead.h"
 
 namespace {
 
@@ -26,7 +26,7 @@ protected:
         const CliRun r = RunCli(appDir, "recommend " + args + " --json");
         EXPECT_EQ(r.code, 0) << r.err;
         Json doc;
-        EXPECT_TRUE(JsonReader(r.out).Parse(doc)) << r.out;
+        EXPECT_TRUE(Json_Parse(r.out, doc)) << r.out;
         return doc;
     }
 

@@ -1,27 +1,13 @@
 // The recalculation runs on every edit and the torque loop for every motor of
-// a series: neither may touch the heap. This binary replaces the global
-// operator new with one that counts.
-#include <cstdlib>
-#include <new>
-
+// a series: neither may touch the heap. This binary's operator new counts.
 #include "calc/mdlCulcurate.h"
 #include "tests/calc/CalcFixture.h"
+#include "tests/noalloc/CountingNew.h"
 
 namespace {
-long allocations = 0;
+
 // A store the optimiser must keep: a new whose result lands here is never removed.
 int* volatile kept = nullptr;
-}
-
-void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* p = std::malloc(size == 0 ? 1 : size)) return p;
-    throw std::bad_alloc();
-}
-void operator delete(void* p) noexcept { std::free(p); }
-void operator delete(void* p, std::size_t) noexcept { std::free(p); }
-
-namespace {
 
 class CalcNoAlloc : public CalcTest {
 protected:

@@ -17,6 +17,10 @@ void Catalogue_Build(const std::string& folder, const std::string& rows) {
     if (!ok) throw std::runtime_error(error);
 }
 
+std::string Catalogue_CurveTable() {
+    return ReadFile(std::string(TORVANE_SOURCE_DIR) + "/data/catalogue/50_curve_table.sql");
+}
+
 std::string Catalogue_Bundled() {
     return (std::filesystem::path(TORVANE_CLI).parent_path() / "Series.db").string();
 }

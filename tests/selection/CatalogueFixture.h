@@ -9,6 +9,9 @@
 // Creates Series.db in the folder: the schema, then the SQL text of rows.
 void Catalogue_Build(const std::string& folder, const std::string& rows);
 
+// The SQL text that creates the optional table of speed-torque curves.
+std::string Catalogue_CurveTable();
+
 // The catalogue that the build placed beside the executables.
 std::string Catalogue_Bundled();
 

@@ -1,21 +1,9 @@
-// A small JSON reader, enough to check what torvane-cli prints.
-#pragma once
+// Opens with its header: tests/support/JsonRead.h.
+#include "tests/support/JsonRead.h"
 
-#include <cstddef>
-#include <map>
-#include <string>
 #include <utility>
-#include <vector>
 
-struct Json {
-    enum Kind { Null, Bool, Number, String, Array, Object } kind = Null;
-    double number = 0;
-    std::string text;
-    std::vector<Json> items;
-    std::map<std::string, Json> fields;
-    const Json& operator[](const std::string& key) const { return fields.at(key); }
-    const Json& operator[](std::size_t i) const { return items.at(i); }
-};
+namespace {
 
 class JsonReader {
 public:
@@ -112,3 +100,8 @@ private:
     std::string s_;
     std::size_t i_ = 0;
 };
+
+
+}  // namespace
+
+bool Json_Parse(const std::string& text, Json& out) { return JsonReader(text).Parse(out); }
