@@ -7,6 +7,7 @@
 
 #include "app/cli/ChainPrint.h"
 #include "app/cli/Json.h"
+#include "app/cli/PatternCli.h"
 #include "app/cli/ReportCli.h"
 #include "app/cli/ResultsCli.h"
 #include "app/cli/SelectionCli.h"
@@ -58,6 +59,7 @@ int main(int argc, char** argv) {
     ResultsCli results(app);
     ReportCli report(app);
     SizeCli size(app);
+    PatternCli pattern(app);
 
     try {
         app.parse(argc, argv);
@@ -71,6 +73,7 @@ int main(int argc, char** argv) {
         if (const int code = results.Run(); code >= 0) return code;
         if (const int code = report.Run(); code >= 0) return code;
         if (const int code = size.Run(); code >= 0) return code;
+        if (const int code = pattern.Run(); code >= 0) return code;
     } catch (const RuntimeError& e) {
         std::cerr << "torvane-cli: " << e.what() << '\n';
         return 1;
