@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "calc/mdlCulcurate.h"
 #include "commands/PointRows.h"
 #include "core/PatarnRows.h"
 #include "pattern/PointTable.h"
@@ -20,6 +21,7 @@ protected:
     void SetUp() override {
         CalcTest::SetUp();
         Build(1);
+        Culcurate_All();  // as every document stands once it is shown
     }
 
     // The table of the text, read without a refusal.

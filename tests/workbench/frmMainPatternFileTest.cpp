@@ -156,3 +156,22 @@ TEST_F(PatternFileWindowTest, AnExportThatCannotBeWrittenSaysSo) {
     EXPECT_EQ(msg.Seen()[0].text, "The point table could not be written.");
     EXPECT_EQ(msg.Seen()[0].title, "Export Pattern");
 }
+
+TEST_F(PatternFileWindowTest, AnEditInProgressIsCommittedBeforeTheExport) {
+    frmMain w;
+    StartWith(w, 1);
+    Type(w, 2, 1, "0.1");
+    w.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
+    auto* g = Ctl<PatarnGrid>(&w, "vsfPatarn");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    g->setCurrentCell(0, 3);
+    g->editItem(g->item(0, 3));
+    auto* edit = qobject_cast<QLineEdit*>(g->indexWidget(g->currentIndex()));
+    ASSERT_NE(edit, nullptr);
+    QApplication::processEvents();
+    edit->setFocus();
+    QTest::keyClicks(edit, "1500");
+    ASSERT_EQ(QApplication::focusWidget(), edit);  // the edit is still open when the command comes
+    EXPECT_EQ(Export(w, "open.csv"), "time (s),speed (r/min)\n0.000,0.0\n0.100,1500.0\n");
+}
