@@ -6,10 +6,9 @@
 
 #include "app/cli/GridPrint.h"
 #include "app/cli/Json.h"
+#include "commands/SelectionTake.h"
 #include "core/Startup.h"
 #include "persist/mdlFile.h"
-#include "selection/DriverPage.h"
-#include "selection/MotorPage.h"
 
 namespace {
 
@@ -28,27 +27,6 @@ bool Open(const std::string& file, MotorPage& page) {
     Main_Prepare("");
     if (!File_Load(file)) return false;
     MotorPage_Load(page);
-    return true;
-}
-
-// Walks the groups of every series until the motor's row is the current one.
-bool Motor_Find(MotorPage& page, const std::string& model) {
-    for (int s = 0; s < static_cast<int>(page.lstS.size()); ++s) {
-        MotorPage_PickSeries(page, s);
-        for (int g = 0; g < static_cast<int>(page.lstM.size()); ++g) {
-            if (g != 0) MotorPage_PickModel(page, g);
-            for (int row = kFixedRows; row < page.vsfData.Rows(); ++row)
-                if (page.vsfData.Cell(row, 1).text == model) return MotorPage_MoveToRow(page, row), true;
-        }
-    }
-    return false;
-}
-
-// The driver page of the motor, activated.
-bool Drivers_Open(MotorPage& page, DriverPage& drivers, const std::string& model) {
-    if (!Motor_Find(page, model)) return false;
-    MotorPage_TakeMotor(page, drivers);
-    DriverPage_Fill(drivers);
     return true;
 }
 
@@ -100,17 +78,14 @@ int Run_Drivers(const std::string& file, const std::string& motor, bool json) {
 
 int Run_Select(const std::string& file, const std::string& motor, const std::string& driver,
                const std::string& modelText, const std::string& out) {
-    MotorPage page;
-    DriverPage drivers;
-    if (!Open(file, page)) return 1;
-    if (!Drivers_Open(page, drivers, motor)) return NotFound("motor", motor);
-    drivers.Row = -1;
-    for (int row = kFixedRows; row < drivers.vsfDrvList.Rows(); ++row)
-        if (drivers.vsfDrvList.Cell(row, 1).text == driver) drivers.Row = row;
-    if (drivers.Row < 0) return NotFound("driver of the motor", driver);
-    if (!modelText.empty()) drivers.txtMotor = modelText;
-    if (!DriverPage_Finish(page, drivers)) return 1;
-    MotorPage_Unload();
+    Main_Prepare("");
+    if (!File_Load(file)) return 1;
+    switch (Selection_Take(motor, driver, modelText)) {
+        case TakeResult::NoMotor: return NotFound("motor", motor);
+        case TakeResult::NoDriver: return NotFound("driver of the motor", driver);
+        case TakeResult::Refused: return 1;
+        case TakeResult::Taken: break;
+    }
     return File_Save(out) ? 0 : 1;
 }
 

@@ -137,6 +137,8 @@ void PrintResultRecords(std::ostream& out) {
     out << "\"results\":{\"cul\":" << NumberArray(ResultValues[Cul]) << ",\"rate\":" << NumberArray(ResultValues[Rate])
         << ",\"ratio\":" << NumberArray(ResultValues[Ratio]) << ",\"hantei\":[";
     for (int j = 0; j < 7; ++j) out << (j ? "," : "") << static_cast<int>(ResultValues[Hantei][j]);
+    out << "],\"verdicts\":[";
+    for (int j = 0; j < 7; ++j) out << (j ? "," : "") << '"' << Verdict(ResultValues[Hantei][j]) << '"';
     out << "]}";
 }
 

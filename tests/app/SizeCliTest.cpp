@@ -67,7 +67,7 @@ TEST_F(SizeCliTest, JsonHoldsTheNumbersOfTheOpenedDocument) {
     EXPECT_TRUE(Holds("\"cul\":[" + Json_Number(ResultValues[Cul][0]) + ","));
     EXPECT_TRUE(Holds("\"rate\":[" + Json_Number(1.27) + "," + Json_Number(4.46) + ",3000," + Json_Number(2.63e-5) +
                       ",18,12," + Json_Number(1.27) + "]"));
-    EXPECT_TRUE(Holds("\"hantei\":[1,1,1,1,1,1,1]}}\n"));
+    EXPECT_TRUE(Holds("\"hantei\":[1,1,1,1,1,1,1],\"verdicts\":[\"OK\",\"OK\",\"OK\",\"OK\",\"OK\",\"OK\",\"OK\"]}}\n"));
 }
 
 TEST_F(SizeCliTest, TextShowsChainPatternAndVerdicts) {

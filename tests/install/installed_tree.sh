@@ -21,6 +21,7 @@ fi
 
 (cd "$source/data/app" && find . -type f) | while read -r f; do same "$source/data/app/$f" "$share/$f"; done
 for f in "$source"/data/catalogue/*.sql; do same "$f" "$share/catalogue/${f##*/}"; done
+for f in "$source"/examples/*.AP2; do same "$f" "$share/examples/${f##*/}"; done
 for f in "$build"/BMP_data/*.bmp; do same "$f" "$share/BMP_data/${f##*/}"; done
 same "$build/Series.db" "$share/Series.db"
 
@@ -42,7 +43,7 @@ grep -qx 'application/x-torvane-ap2:\*\.ap2' "$work/mime/globs" || fail "no *.ap
 # The same commands through the build folder's program and the installed one,
 # each on its own copy of the installed data, as the programs write there.
 cp -r "$share" "$work/built-data"
-doc=$source/tests/data/horizontal-ballscrew.AP2
+doc=$share/examples/horizontal-ballscrew.AP2
 run() {
     local cli=$1 out=$2
     mkdir -p "$out"
@@ -52,7 +53,17 @@ run() {
     "$cli" report "$doc" "$out/report.pdf" --date 2024-01-31
 }
 TORVANE_APP_PATH=$work/built-data run "$build/torvane-cli" "$work/built"
-TORVANE_APP_PATH=$share run "$usr/bin/torvane-cli" "$work/installed"
+# The installed program reads the shipped data through the user's own folder,
+# into which the first start copies it; TORVANE_APP_PATH is not set.
+user=$work/home/.local/share/Torvane
+(unset TORVANE_APP_PATH XDG_DATA_HOME; HOME=$work/home run "$usr/bin/torvane-cli" "$work/installed")
+(cd "$share" && find . -type f) | while read -r f; do same "$share/$f" "$user/$f"; done
+# A later start keeps what the user changed, and a user's XDG_DATA_HOME wins.
+echo "; the user's own" >>"$user/Param.ini"
+(unset TORVANE_APP_PATH XDG_DATA_HOME; HOME=$work/home "$usr/bin/torvane-cli" series >/dev/null)
+tail -n 1 "$user/Param.ini" | grep -qx "; the user's own" || fail "a second start replaced the user's Param.ini"
+(unset TORVANE_APP_PATH; HOME=$work/home XDG_DATA_HOME=$work/xdg "$usr/bin/torvane-cli" series >/dev/null)
+same "$share/Series.db" "$work/xdg/Torvane/Series.db"
 grep -q 'Effective torque' "$work/installed/size.txt" || fail "size printed no sizing values"
 for f in size.txt series.txt results.txt; do same "$work/built/$f" "$work/installed/$f"; done
 [ "$(head -c 5 "$work/installed/report.pdf")" = "%PDF-" ] || fail "the report is no PDF file"
