@@ -163,11 +163,7 @@ TEST_F(PatternFileWindowTest, AnEditInProgressIsCommittedBeforeTheExport) {
     Type(w, 2, 1, "0.1");
     w.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
-    auto* g = Ctl<PatarnGrid>(&w, "vsfPatarn");
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    g->setCurrentCell(0, 3);
-    g->editItem(g->item(0, 3));
-    auto* edit = qobject_cast<QLineEdit*>(g->indexWidget(g->currentIndex()));
+    QLineEdit* edit = PatternCell_OpenEditor(w, 2, 3);
     ASSERT_NE(edit, nullptr);
     QApplication::processEvents();
     edit->setFocus();
