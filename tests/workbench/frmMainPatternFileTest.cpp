@@ -43,8 +43,8 @@ TEST_F(PatternFileWindowTest, TheFileMenuOffersImportAndExportOfThePattern) {
     auto* file = Ctl<QMenu>(&w, "mnuFile");
     const QList<QAction*> actions = file->actions();
     const auto at = [&](const char* name) { return actions.indexOf(w.Action(name)); };
-    EXPECT_EQ(w.Action("mnuPatternImport")->text(), "Import Pattern...");
-    EXPECT_EQ(w.Action("mnuPatternExport")->text(), "Export Pattern...");
+    EXPECT_EQ(w.Action("mnuPatternImport")->text(), "&Import Pattern...");  // I and E open them from the keyboard
+    EXPECT_EQ(w.Action("mnuPatternExport")->text(), "&Export Pattern...");
     EXPECT_GT(at("mnuPatternImport"), at("mnuCulcurate"));
     EXPECT_EQ(at("mnuPatternExport"), at("mnuPatternImport") + 1);
     EXPECT_LT(at("mnuPatternExport"), at("mnuFilePrint"));
