@@ -63,6 +63,15 @@ protected:
         EXPECT_EQ(ResultValues, s.results);
     }
 
+    // The text is refused with the one message, and the document stays as it was.
+    void ExpectRefused(const std::string& text, const std::string& message, const std::string& title) {
+        msg.Clear();
+        const Snapshot before = Take();
+        EXPECT_FALSE(Import(text));
+        ExpectOneMessage(message, title);
+        ExpectUntouched(before);
+    }
+
     void ExpectOneMessage(const std::string& text, const std::string& title) const {
         ASSERT_EQ(msg.Seen().size(), 1u);
         EXPECT_EQ(msg.Seen()[0].text, text);
@@ -123,40 +132,29 @@ TEST_F(PatternFileTest, WindowsLineEndsAndAByteOrderMarkReadAsPlainLines) {
 TEST_F(PatternFileTest, TooManyRowsAreRefusedAndTheDocumentStaysAsItWas) {
     std::string text;
     for (int i = 1; i <= 21; ++i) text += std::to_string(i) + ",100\n";
-    const Snapshot before = Take();
-    EXPECT_FALSE(Import(text));
-    ExpectOneMessage("The operating pattern holds at most 20 rows; the point table gives 21.", "Operating Pattern");
-    ExpectUntouched(before);
+    ExpectRefused(text, "The operating pattern holds at most 20 rows; the point table gives 21.", "Operating Pattern");
 }
 
 TEST_F(PatternFileTest, TooManyRowsAfterTheSplitsAreRefusedAndTheDocumentStaysAsItWas) {
     std::string text;
     for (int i = 1; i <= 12; ++i) text += std::to_string(i) + (i % 2 ? ",100\n" : ",-100\n");
-    const Snapshot before = Take();
-    EXPECT_FALSE(Import(text));
-    ExpectOneMessage("The operating pattern holds at most 20 rows; the point table gives 12, and 11 more where the "
-                     "speed changes sign within a row.",
-                     "Operating Pattern");
-    ExpectUntouched(before);
+    ExpectRefused(text,
+                  "The operating pattern holds at most 20 rows; the point table gives 12, and 11 more where the speed "
+                  "changes sign within a row.",
+                  "Operating Pattern");
 }
 
 TEST_F(PatternFileTest, ABadNumberIsRefusedAndTheDocumentStaysAsItWas) {
-    const Snapshot before = Take();
-    EXPECT_FALSE(Import("time,speed\r\n0.1,3000\r\n0.6,3,000\r\n"));
-    ExpectOneMessage("Line 3 holds 3 fields: a point table has two columns, time,speed or interval,speed.",
-                     "Import Pattern");
-    msg.Clear();
-    EXPECT_FALSE(Import("time,speed\r\n0.1,3000\r\n0.6,3000rpm\r\n"));
-    ExpectOneMessage("Illegal input value.\r\nLine 3: the speed is no number.", "Operating Pattern");
-    ExpectUntouched(before);
+    ExpectRefused("time,speed\r\n0.1,3000\r\n0.6,3,000\r\n",
+                  "Line 3 holds 3 fields: a point table has two columns, time,speed or interval,speed.", "Import Pattern");
+    ExpectRefused("time,speed\r\n0.1,3000\r\n0.6,3000rpm\r\n", "Illegal input value.\r\nLine 3: the speed is no number.",
+                  "Operating Pattern");
 }
 
 TEST_F(PatternFileTest, ATimeGoingBackIsRefusedAndTheDocumentStaysAsItWas) {
-    const Snapshot before = Take();
-    EXPECT_FALSE(Import("1,100\n0.9,0\n"));
-    ExpectOneMessage("Illegal input value.\r\nLine 2: the time must be greater than 0 and than the time before it.",
-                     "Operating Pattern");
-    ExpectUntouched(before);
+    ExpectRefused("1,100\n0.9,0\n",
+                  "Illegal input value.\r\nLine 2: the time must be greater than 0 and than the time before it.",
+                  "Operating Pattern");
 }
 
 TEST_F(PatternFileTest, AFileThatCannotBeReadSaysSoAndTheDocumentStaysAsItWas) {
@@ -171,10 +169,8 @@ TEST_F(PatternFileTest, AFileThatCannotBeReadSaysSoAndTheDocumentStaysAsItWas) {
 }
 
 TEST_F(PatternFileTest, AFileLongerThanAnyPointTableIsRefusedUnread) {
-    const Snapshot before = Take();
-    EXPECT_FALSE(Import("time,speed\n1,100\n" + std::string(kPointTableLimit, '\n')));
-    ExpectOneMessage("The file is too long for a point table.", "Import Pattern");
-    ExpectUntouched(before);
+    ExpectRefused("time,speed\n1,100\n" + std::string(kPointTableLimit, '\n'), "The file is too long for a point table.",
+                  "Import Pattern");
 }
 
 TEST_F(PatternFileTest, AFileAtTheLimitIsRead) {
@@ -185,10 +181,7 @@ TEST_F(PatternFileTest, AFileAtTheLimitIsRead) {
 }
 
 TEST_F(PatternFileTest, AnEmptyFileIsRefused) {
-    const Snapshot before = Take();
-    EXPECT_FALSE(Import(""));
-    ExpectOneMessage("The point table holds no rows.", "Import Pattern");
-    ExpectUntouched(before);
+    ExpectRefused("", "The point table holds no rows.", "Import Pattern");
 }
 
 TEST_F(PatternFileTest, ExportWritesThePatternAsItsTimePoints) {

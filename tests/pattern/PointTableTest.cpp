@@ -3,16 +3,29 @@
 // their line numbers.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "pattern/PointTable.h"
 
 namespace {
 
-PointTable Parsed(const std::string& text) {
+struct Want {
+    int line;
+    std::string first, speed;
+};
+
+// The text read without a refusal, holding exactly the lines of values wanted.
+PointTable Lines(const std::string& text, const std::vector<Want>& want) {
     PointTable table;
-    const std::string why = PointTable_Parse(text, table);
-    EXPECT_EQ(why, "") << text;
+    EXPECT_EQ(PointTable_Parse(text, table), "") << text;
+    EXPECT_EQ(table.lines.size(), want.size()) << text;
+    for (std::size_t i = 0; i < std::min(want.size(), table.lines.size()); ++i) {
+        EXPECT_EQ(table.lines[i].line, want[i].line) << text;
+        EXPECT_EQ(table.lines[i].first, want[i].first) << text;
+        EXPECT_EQ(table.lines[i].speed, want[i].speed) << text;
+    }
     return table;
 }
 
@@ -21,84 +34,56 @@ std::string Refusal(const std::string& text) {
     return PointTable_Parse(text, table);
 }
 
-void ExpectLine(const PointLine& line, int number, const std::string& first, const std::string& speed) {
-    EXPECT_EQ(line.line, number);
-    EXPECT_EQ(line.first, first);
-    EXPECT_EQ(line.speed, speed);
-}
-
 }  // namespace
 
 TEST(PointTableTest, AHeaderOfTimeAndSpeedWithUnitsIsReadAndTheValuesFollowIt) {
-    const PointTable t = Parsed("time (s),speed (r/min)\n0.000,0.0\n0.100,3000.0\n");
+    const PointTable t =
+        Lines("time (s),speed (r/min)\n0.000,0.0\n0.100,3000.0\n", {{2, "0.000", "0.0"}, {3, "0.100", "3000.0"}});
     EXPECT_EQ(t.columns, PointColumns::Time);
     EXPECT_EQ(t.timeUnit, "s");
     EXPECT_EQ(t.speedUnit, "r/min");
-    ASSERT_EQ(t.lines.size(), 2u);
-    ExpectLine(t.lines[0], 2, "0.000", "0.0");
-    ExpectLine(t.lines[1], 3, "0.100", "3000.0");
 }
 
 TEST(PointTableTest, AHeaderOfIntervalAndSpeedInAnyCaseWithoutUnits) {
-    const PointTable t = Parsed("Interval,SPEED\n0.5,100\n");
+    const PointTable t = Lines("Interval,SPEED\n0.5,100\n", {{2, "0.5", "100"}});
     EXPECT_EQ(t.columns, PointColumns::Interval);
     EXPECT_EQ(t.timeUnit, "");
     EXPECT_EQ(t.speedUnit, "");
-    ASSERT_EQ(t.lines.size(), 1u);
-    ExpectLine(t.lines[0], 2, "0.5", "100");
 }
 
 TEST(PointTableTest, WithoutAHeaderTheColumnsAreTimeAndSpeed) {
-    const PointTable t = Parsed("0.5,1000\n1.0,0\n");
-    EXPECT_EQ(t.columns, PointColumns::Time);
-    ASSERT_EQ(t.lines.size(), 2u);
-    ExpectLine(t.lines[0], 1, "0.5", "1000");
-    ExpectLine(t.lines[1], 2, "1.0", "0");
+    EXPECT_EQ(Lines("0.5,1000\n1.0,0\n", {{1, "0.5", "1000"}, {2, "1.0", "0"}}).columns, PointColumns::Time);
 }
 
 TEST(PointTableTest, WindowsLineEndsAreOneLineEndEach) {
-    const PointTable t = Parsed("interval,speed\r\n0.1,3000\r\n0.5,3000\r\n");
-    ASSERT_EQ(t.lines.size(), 2u);
-    ExpectLine(t.lines[0], 2, "0.1", "3000");
-    ExpectLine(t.lines[1], 3, "0.5", "3000");
+    Lines("interval,speed\r\n0.1,3000\r\n0.5,3000\r\n", {{2, "0.1", "3000"}, {3, "0.5", "3000"}});
 }
 
 TEST(PointTableTest, OldMacLineEndsAndALastLineWithoutAnEndAreRead) {
-    const PointTable t = Parsed("time,speed\r1,100\r2,0");
-    ASSERT_EQ(t.lines.size(), 2u);
-    ExpectLine(t.lines[0], 2, "1", "100");
-    ExpectLine(t.lines[1], 3, "2", "0");
+    Lines("time,speed\r1,100\r2,0", {{2, "1", "100"}, {3, "2", "0"}});
 }
 
 TEST(PointTableTest, AByteOrderMarkBeforeTheHeaderIsPassedOver) {
-    const PointTable t = Parsed("\xEF\xBB\xBFinterval (s),speed (r/min)\n0.2,50\n");
+    const PointTable t = Lines("\xEF\xBB\xBFinterval (s),speed (r/min)\n0.2,50\n", {{2, "0.2", "50"}});
     EXPECT_EQ(t.columns, PointColumns::Interval);
     EXPECT_EQ(t.timeUnit, "s");
-    ASSERT_EQ(t.lines.size(), 1u);
 }
 
 TEST(PointTableTest, AByteOrderMarkBeforeAValueIsPassedOver) {
-    const PointTable t = Parsed("\xEF\xBB\xBF" "0.2,50\n");
-    ASSERT_EQ(t.lines.size(), 1u);
-    ExpectLine(t.lines[0], 1, "0.2", "50");
+    Lines("\xEF\xBB\xBF" "0.2,50\n", {{1, "0.2", "50"}});
 }
 
 TEST(PointTableTest, BlankLinesAreSkippedButCountedAndBlanksAroundFieldsGo) {
-    const PointTable t = Parsed("\n  \ntime , speed\n\n\t0.5 ,  -100 \n \t\n");
-    ASSERT_EQ(t.lines.size(), 1u);
-    ExpectLine(t.lines[0], 5, "0.5", "-100");
+    Lines("\n  \ntime , speed\n\n\t0.5 ,  -100 \n \t\n", {{5, "0.5", "-100"}});
 }
 
 TEST(PointTableTest, FieldsInDoubleQuotesLoseTheirQuotes) {
-    const PointTable t = Parsed("\"time (s)\",\"speed\"\n\"0.5\", \" 20 \"\n");
-    EXPECT_EQ(t.timeUnit, "s");
-    ASSERT_EQ(t.lines.size(), 1u);
-    ExpectLine(t.lines[0], 2, "0.5", "20");
+    EXPECT_EQ(Lines("\"time (s)\",\"speed\"\n\"0.5\", \" 20 \"\n", {{2, "0.5", "20"}}).timeUnit, "s");
 }
 
 TEST(PointTableTest, AnEmptyTextIsATableWithoutLines) {
-    EXPECT_TRUE(Parsed("").lines.empty());
-    EXPECT_TRUE(Parsed("time,speed\r\n").lines.empty());
+    Lines("", {});
+    Lines("time,speed\r\n", {});
 }
 
 TEST(PointTableTest, ALineOfOtherThanTwoFieldsIsRefusedWithItsNumber) {
@@ -118,21 +103,15 @@ TEST(PointTableTest, AHeaderOfOtherNamesIsRefused) {
 }
 
 TEST(PointTableTest, AWordOnALaterLineIsAValueForTheRowsToRefuse) {
-    const PointTable t = Parsed("time,speed\n1,100\ntime,speed\n");
-    ASSERT_EQ(t.lines.size(), 2u);
-    ExpectLine(t.lines[1], 3, "time", "speed");
+    Lines("time,speed\n1,100\ntime,speed\n", {{2, "1", "100"}, {3, "time", "speed"}});
 }
 
 TEST(PointTableTest, AFirstLineWithoutAWordIsALineOfValues) {
-    const PointTable t = Parsed(",100\n");
-    ASSERT_EQ(t.lines.size(), 1u);
-    ExpectLine(t.lines[0], 1, "", "100");
+    Lines(",100\n", {{1, "", "100"}});
 }
 
 TEST(PointTableTest, AnExponentIsANumberNotAHeader) {
-    const PointTable t = Parsed("1e-1,100\n");
-    ASSERT_EQ(t.lines.size(), 1u);
-    ExpectLine(t.lines[0], 1, "1e-1", "100");
+    Lines("1e-1,100\n", {{1, "1e-1", "100"}});
 }
 
 TEST(PointTableTest, ReadingAgainStartsFromAnEmptyTable) {

@@ -33,6 +33,18 @@ protected:
         return ReadFile(path);
     }
 
+    // A complete row typed as its interval and its speed.
+    static void TypeRow(frmMain& w, int gridRow, const QString& interval, const QString& speed) {
+        Type(w, gridRow, 2, interval);
+        Type(w, gridRow, 3, speed);
+    }
+
+    void ExpectOneMessage(const std::string& text, const std::string& title) const {
+        ASSERT_EQ(msg.Seen().size(), 1u);
+        EXPECT_EQ(msg.Seen()[0].text, text);
+        EXPECT_EQ(msg.Seen()[0].title, title);
+    }
+
     static QString Result(frmMain& w, int row) { return Ctl<QTableWidget>(&w, "vsfMotor")->item(row, 2)->text(); }
 };
 
@@ -72,10 +84,8 @@ TEST_F(PatternFileWindowTest, AnImportFillsTheGridTheGraphsAndTheResults) {
 TEST_F(PatternFileWindowTest, AnImportReplacesTypedRowsAndAnotherImportFollows) {
     frmMain w;
     StartWith(w, 1);
-    Type(w, 2, 1, "0.1");
-    Type(w, 2, 3, "3000");
-    Type(w, 3, 2, "0.5");
-    Type(w, 3, 3, "3000");
+    TypeRow(w, 2, "0.1", "3000");
+    TypeRow(w, 3, "0.5", "3000");
     Import(w, "interval,speed\n0.2,1500\n0.2,0\n");
     EXPECT_EQ(Cell(w, 2, 3), "1500.0");
     EXPECT_EQ(Cell(w, 3, 1), "0.400");
@@ -90,16 +100,13 @@ TEST_F(PatternFileWindowTest, AnImportReplacesTypedRowsAndAnotherImportFollows) 
 TEST_F(PatternFileWindowTest, ARefusedImportTellsWhyAndLeavesTheWindowAsItWas) {
     frmMain w;
     StartWith(w, 1);
-    Type(w, 2, 1, "0.1");
-    Type(w, 2, 3, "3000");
+    TypeRow(w, 2, "0.1", "3000");
     DirtyFlag = 0;
     const QString speed = Cell(w, 2, 3), torque = Cell(w, 2, 6), result = Result(w, 4);
     std::string text = "time,speed\n";
     for (int i = 1; i <= 21; ++i) text += std::to_string(i) + ",100\n";
     Import(w, text);
-    ASSERT_EQ(msg.Seen().size(), 1u);
-    EXPECT_EQ(msg.Seen()[0].text, "The operating pattern holds at most 20 rows; the point table gives 21.");
-    EXPECT_EQ(msg.Seen()[0].title, "Operating Pattern");
+    ExpectOneMessage("The operating pattern holds at most 20 rows; the point table gives 21.", "Operating Pattern");
     EXPECT_EQ(DirtyFlag, 0);
     EXPECT_EQ(PatternRowCount, 1);
     EXPECT_EQ(Cell(w, 2, 3), speed);
@@ -121,12 +128,9 @@ TEST_F(PatternFileWindowTest, ACancelledDialogImportsNothing) {
 TEST_F(PatternFileWindowTest, AnExportWritesTheRowsAsTheGridShowsThem) {
     frmMain w;
     StartWith(w, 1);
-    Type(w, 2, 1, "0.1");
-    Type(w, 2, 3, "3000");
-    Type(w, 3, 2, "0.5");
-    Type(w, 3, 3, "3000");
-    Type(w, 4, 2, "0.1");
-    Type(w, 4, 3, "0");
+    TypeRow(w, 2, "0.1", "3000");
+    TypeRow(w, 3, "0.5", "3000");
+    TypeRow(w, 4, "0.1", "0");
     DirtyFlag = 0;
     EXPECT_EQ(Export(w, "out.csv"), "time (s),speed (r/min)\n0.000,0.0\n0.100,3000.0\n0.600,3000.0\n0.700,0.0\n");
     EXPECT_TRUE(msg.Seen().empty());
@@ -152,9 +156,7 @@ TEST_F(PatternFileWindowTest, AnExportThatCannotBeWrittenSaysSo) {
     frmMain w;
     StartWith(w, 1);
     Export(w, "no/such/folder/out.csv");
-    ASSERT_EQ(msg.Seen().size(), 1u);
-    EXPECT_EQ(msg.Seen()[0].text, "The point table could not be written.");
-    EXPECT_EQ(msg.Seen()[0].title, "Export Pattern");
+    ExpectOneMessage("The point table could not be written.", "Export Pattern");
 }
 
 TEST_F(PatternFileWindowTest, AnEditInProgressIsCommittedBeforeTheExport) {
