@@ -12,40 +12,43 @@
 
 namespace {
 
-void Store(int16_t i, int col, double value) {
+void Store(PatarnTable& table, int16_t i, int col, double value) {
     const ColumnUnit u = Patarn_ColumnUnit(col, LoadMotion);
-    Patarn_SetField(Patarn, i, u.kind, u.unit, value, static_cast<int16_t>(col - 1));
+    Patarn_SetField(table, i, u.kind, u.unit, value, static_cast<int16_t>(col - 1));
 }
 
-void StoreCell(int gridRow, int col, double value) {
+}  // namespace
+
+void Patarn_StoreCell(PatarnTable& table, int gridRow, int col, double value) {
+    if (gridRow < 2 || gridRow > kPatarnRows + 1) return;
     const auto i = static_cast<int16_t>(gridRow - 1);
     switch (col) {
         case 1:
-            Store(i, 1, value);
-            Patarn_SetField(Patarn, i, UnitKind::Time, 1, Patarn[i].Time - Patarn[i - 1].Time, FieldDeltaTime);
+            Store(table, i, 1, value);
+            Patarn_SetField(table, i, UnitKind::Time, 1, table[i].Time - table[i - 1].Time, FieldDeltaTime);
             break;
-        case 2: Store(i, 2, value); break;
+        case 2: Store(table, i, 2, value); break;
         case 3: {
-            Store(i, 3, value);
+            Store(table, i, 3, value);
             double mass = 0;
             Load_Inertia(Element, MotorSelected, mass);
-            Patarn_SetLoadSpeed(Patarn, i, 0, 0, 0);
+            Patarn_SetLoadSpeed(table, i, 0, 0, 0);
             break;
         }
         case 4:
-            Store(i, 4, value);
-            Patarn_SetSpeed(Patarn, i);
+            Store(table, i, 4, value);
+            Patarn_SetSpeed(table, i);
             break;
         case 5: {
-            const int16_t before = Patarn[i].RowState;
-            Store(i, 5, value);
+            const int16_t before = table[i].RowState;
+            Store(table, i, 5, value);
             if (before == 1) {
-                const double start = i == 1 ? 0 : Patarn[i - 1].LoadSpeed;
-                const double distance = i == 1 ? Patarn[1].Position : Patarn[i].Position - Patarn[i - 1].Position;
-                Patarn_SetLoadSpeed(Patarn, i, 1, start, distance);
-                Patarn_SetSpeed(Patarn, i);
+                const double start = i == 1 ? 0 : table[i - 1].LoadSpeed;
+                const double distance = i == 1 ? table[1].Position : table[i].Position - table[i - 1].Position;
+                Patarn_SetLoadSpeed(table, i, 1, start, distance);
+                Patarn_SetSpeed(table, i);
             } else {
-                Patarn_Retime(Patarn, static_cast<int16_t>(gridRow));
+                Patarn_Retime(table, static_cast<int16_t>(gridRow));
             }
             break;
         }
@@ -53,7 +56,12 @@ void StoreCell(int gridRow, int col, double value) {
     }
 }
 
-}  // namespace
+void Patarn_Recalculate() {
+    Culcurate_All();
+    PatternRowCount = Patarn_CountRows(Patarn);
+    Patarn_SplitZero(Patarn);
+    Culcurate_All();
+}
 
 bool Patarn_AfterEdit(int gridRow, int col, const std::string& text, int16_t& escapePending) {
     if (text.empty()) return false;
@@ -62,11 +70,8 @@ bool Patarn_AfterEdit(int gridRow, int col, const std::string& text, int16_t& es
         return false;
     }
     DirtyFlag = 1;
-    if (gridRow >= 2 && gridRow <= kPatarnRows + 1) StoreCell(gridRow, col, Val(text));
-    Culcurate_All();
-    PatternRowCount = Patarn_CountRows(Patarn);
-    Patarn_SplitZero(Patarn);
-    Culcurate_All();
+    Patarn_StoreCell(Patarn, gridRow, col, Val(text));
+    Patarn_Recalculate();
     return true;
 }
 

@@ -5,6 +5,17 @@
 #include <cstdint>
 #include <string>
 
+#include "core/Tables.h"
+
+// Stores value, in the picked unit of column col (1 to 5), into the record of
+// grid row gridRow (2..21) of the table, with the fields it drives, as a
+// committed cell does. Any other row or column stores nothing.
+void Patarn_StoreCell(PatarnTable& table, int gridRow, int col, double value);
+
+// The recalculation that follows every change of the rows: the sizing, the
+// count of complete rows, the splits at zero speed, and the sizing again.
+void Patarn_Recalculate();
+
 // After the edit of grid row gridRow (2..21), column col, whose cell now
 // holds text. An empty text stores nothing; a pending escape is cleared and
 // stores nothing. Row 0 or column 0 skip the storing and only recalculate.

@@ -9,9 +9,7 @@ namespace {
 ColumnUnit Picked(int16_t kind) { return {kind, UnitTable[kind].Sel}; }
 
 std::string Shown(double value, int col, int16_t loadMotion, std::string_view mask) {
-    if (value == kOver) return "OVER";
-    const ColumnUnit u = Patarn_ColumnUnit(col, loadMotion);
-    return Format_Mask(FromS(u.kind, u.unit, value), mask);
+    return value == kOver ? "OVER" : Patarn_ColumnValue(value, col, loadMotion, mask);
 }
 
 struct ResultRowDef {
@@ -56,6 +54,11 @@ ColumnUnit Patarn_ColumnUnit(int col, int16_t loadMotion) {
         case 5: return Picked(loadMotion == 1 ? UnitKind::Rotation : UnitKind::Distance);
         default: return Picked(UnitKind::Torque);
     }
+}
+
+std::string Patarn_ColumnValue(double value, int col, int16_t loadMotion, std::string_view mask) {
+    const ColumnUnit u = Patarn_ColumnUnit(col, loadMotion);
+    return Format_Mask(FromS(u.kind, u.unit, value), mask);
 }
 
 std::array<std::string, 7> Patarn_HeaderTexts(int16_t loadMotion) {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "core/Tables.h"
 
@@ -13,6 +14,10 @@ struct ColumnUnit {
     int16_t unit;
 };
 ColumnUnit Patarn_ColumnUnit(int col, int16_t loadMotion);
+
+// A value of a column 1 to 5, in base units, in the column's picked unit
+// through the mask; -9999 too is written as a number.
+std::string Patarn_ColumnValue(double value, int col, int16_t loadMotion, std::string_view mask);
 
 // Row 1 of the pattern grid: the unit labels of columns 0 to 6.
 std::array<std::string, 7> Patarn_HeaderTexts(int16_t loadMotion);

@@ -57,6 +57,14 @@ std::string Patarn_Trim(int col, const std::string& text) {
     return Format_Mask(std::trunc(value * k.factor) / k.factor, k.mask);
 }
 
+bool Patarn_ValueAllowed(int col, double value, double above) {
+    switch (col) {
+        case 1: return value > 0 && value > above;
+        case 2: return value > 0;
+        default: return true;
+    }
+}
+
 CellCheck Patarn_Validate(int gridRow, int col, const std::string& text, const std::string& cellAbove,
                           int16_t escapePending) {
     CellCheck check{false, text};
@@ -69,15 +77,11 @@ CellCheck Patarn_Validate(int gridRow, int col, const std::string& text, const s
     bool ok = true;
     switch (col) {
         case 1:
-            if (gridRow > 2) {
-                if (Patarn[i - 1].RowState == 0 || Patarn[i - 1].RowState == 2) return {true, check.text};
-                ok = value > Val(cellAbove);
-            }
-            ok = ok && value > 0;
+            if (gridRow > 2 && (Patarn[i - 1].RowState == 0 || Patarn[i - 1].RowState == 2)) return {true, check.text};
+            ok = Patarn_ValueAllowed(col, value, gridRow > 2 ? Val(cellAbove) : 0);
             break;
-        case 2: ok = value > 0; break;
         case 5: ok = PositionAllowed(gridRow, value, cellAbove); break;
-        default: break;
+        default: ok = Patarn_ValueAllowed(col, value, 0); break;
     }
     if (!ok) {
         MsgBox("Illegal input value.", "Operating Pattern", MsgIcon::Exclamation);

@@ -16,6 +16,12 @@ bool Patarn_KeyAllowed(int key);
 // The text cut to the precision of the column and formatted with its mask.
 std::string Patarn_Trim(int col, const std::string& text);
 
+// Whether a value of column 1 (time) or 2 (interval), cut to the column's
+// precision, may stand: a time after 0 and after above, the time of the row
+// above (0 for the first row); an interval above 0. Other columns pass; the
+// position has rules of its own that read the rows.
+bool Patarn_ValueAllowed(int col, double value, double above);
+
 struct CellCheck {
     bool cancel = false;  // the edit stays open (or is dropped, with escape)
     std::string text;     // the editor's text afterwards

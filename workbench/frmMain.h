@@ -56,6 +56,9 @@ public:
     void mnuCulcurate_Click();
     // The report of the document, as the print dialog would print it, into a PDF file.
     void mnuFileExport_Click();
+    // The pattern from a point table (CSV), and the pattern into one.
+    void mnuPatternImport_Click();
+    void mnuPatternExport_Click();
     void mnuPatarn_Click();
     void mnuPerSet_Click();
     void mnuElementSelect_Click();

@@ -119,6 +119,9 @@ void frmMain::BuildMenus() {
     add(file, "mnuFileSaveAs", "Save As(&A)", {}, [this] { mnuFileSaveAs_Click(); });
     add(file, "mnuCulcurate", "Save Results", {}, [this] { mnuCulcurate_Click(); });
     file->addSeparator();
+    add(file, "mnuPatternImport", "&Import Pattern...", {}, [this] { mnuPatternImport_Click(); });
+    add(file, "mnuPatternExport", "&Export Pattern...", {}, [this] { mnuPatternExport_Click(); });
+    file->addSeparator();
     add(file, "mnuFilePrint", "Print(&P)...", QKeySequence("Ctrl+P"), [this] { frmPrint(this).exec(); });
     add(file, "mnuFileExport", "Export PDF...", {}, [this] { mnuFileExport_Click(); });
     add(file, "mnu", "Administrator(&U)", {}, [this] { frmUser(this).exec(); });

@@ -1,8 +1,10 @@
 // The file commands of the main window: New's question, Open, Save, Save As,
-// Save Results, Export PDF, and the position kept at closing.
+// Save Results, Import and Export Pattern, Export PDF, and the position kept
+// at closing.
 #include <QApplication>
 
 #include "commands/DocumentCommands.h"
+#include "commands/PatternFile.h"
 #include "commands/PrintCommands.h"
 #include "common/ui/QtSettingsStore.h"
 #include "core/Tables.h"
@@ -16,6 +18,7 @@ namespace {
 const QString kDocumentFilter = "Motor Selection Data(*.AP2)";
 const QString kResultsFilter = "(*.TXT)";
 const QString kPdfFilter = "PDF files (*.pdf)";
+const QString kPointTableFilter = "Point table (*.csv)";
 
 }  // namespace
 
@@ -57,6 +60,16 @@ bool frmMain::mnuFileSaveAs_Click() {
 bool frmMain::AskResultsFile(std::string& fileName) {
     fileName = FileDialog_Save(this, kResultsFilter).toStdString();
     return !fileName.empty();
+}
+
+void frmMain::mnuPatternImport_Click() {
+    const QString path = FileDialog_Open(this, kPointTableFilter);
+    if (!path.isEmpty() && Pattern_Import(path.toStdString())) Disp_Refresh();
+}
+
+void frmMain::mnuPatternExport_Click() {
+    const QString path = FileDialog_Save(this, kPointTableFilter);
+    if (!path.isEmpty()) Pattern_Export(path.toStdString(), PointColumns::Time);
 }
 
 void frmMain::StorePosition() { Window_Store(this, kMainWindowKeys); }

@@ -10,6 +10,7 @@
 #include "app/cli/ChainPrint.h"
 #include "app/cli/ChecksCli.h"
 #include "app/cli/Json.h"
+#include "app/cli/PatternCli.h"
 #include "app/cli/ReportCli.h"
 #include "app/cli/ResultsCli.h"
 #include "app/cli/SelectionCli.h"
@@ -65,6 +66,7 @@ int main(int argc, char** argv) {
     SizeCli size(app);
     ChecksCli checks(app);
     CatalogueCli catalogue(app);
+    PatternCli pattern(app);
 
     try {
         app.parse(argc, argv);
@@ -80,6 +82,7 @@ int main(int argc, char** argv) {
         if (const int code = size.Run(); code >= 0) return code;
         if (const int code = checks.Run(); code >= 0) return code;
         if (const int code = catalogue.Run(); code >= 0) return code;
+        if (const int code = pattern.Run(); code >= 0) return code;
         return 2;
     };
     int code = 2;

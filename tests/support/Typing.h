@@ -28,13 +28,20 @@ inline bool Type_IntoEditor(QTableWidget* grid, const QString& text) {
     return true;
 }
 
-// A cell of the pattern grid (grid rows 2..21).
-inline bool Type_PatternCell(frmMain& w, int gridRow, int col, const QString& text) {
+// Opens the editor of a cell of the pattern grid (grid rows 2..21); null
+// when none opens.
+inline QLineEdit* PatternCell_OpenEditor(frmMain& w, int gridRow, int col) {
     auto* g = Ctl<PatarnGrid>(&w, "vsfPatarn");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // the previous editor goes
     g->setCurrentCell(gridRow - 2, col);
     g->editItem(g->item(gridRow - 2, col));
-    return Type_IntoEditor(g, text);
+    return qobject_cast<QLineEdit*>(g->indexWidget(g->currentIndex()));
+}
+
+// A cell of the pattern grid.
+inline bool Type_PatternCell(frmMain& w, int gridRow, int col, const QString& text) {
+    if (PatternCell_OpenEditor(w, gridRow, col) == nullptr) return false;
+    return Type_IntoEditor(Ctl<PatarnGrid>(&w, "vsfPatarn"), text);
 }
 
 // Opens the editor of a setting of the component settings (rows from 1).
