@@ -53,21 +53,29 @@ void StoreCell(int gridRow, int col, double value) {
     }
 }
 
+// The columns whose text is stored: the row numbers and the torque are not.
+bool StoresText(int col) { return col >= 1 && col <= 5; }
+
 }  // namespace
 
-bool Patarn_AfterEdit(int gridRow, int col, const std::string& text, int16_t& escapePending) {
-    if (text.empty()) return false;
+PatternEdit Patarn_AfterEdit(int gridRow, int col, const std::string& text, int16_t& escapePending) {
+    if (text.empty()) return PatternEdit::Skipped;
     if (escapePending == 1) {
         escapePending = 0;
-        return false;
+        return PatternEdit::Skipped;
+    }
+    const bool storing = gridRow >= 2 && gridRow <= kPatarnRows + 1;
+    if (storing && StoresText(col) && !IsNumeric(text)) {
+        MsgBox("Illegal input value.", "Operating Pattern", MsgIcon::Exclamation);
+        return PatternEdit::Refused;
     }
     DirtyFlag = 1;
-    if (gridRow >= 2 && gridRow <= kPatarnRows + 1) StoreCell(gridRow, col, Val(text));
+    if (storing) StoreCell(gridRow, col, Val(text));
     Culcurate_All();
     PatternRowCount = Patarn_CountRows(Patarn);
     Patarn_SplitZero(Patarn);
     Culcurate_All();
-    return true;
+    return PatternEdit::Stored;
 }
 
 bool Patarn_DeleteRows(int low, int high) {
