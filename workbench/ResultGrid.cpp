@@ -32,7 +32,12 @@ ResultGrid::ResultGrid(QWidget* parent) : QTableWidget(7, 5, parent) {
 }
 
 QSize ResultGrid::minimumSizeHint() const {
-    return {Columns_WholeWidth(this, kTwips) + 2 * frameWidth(), QTableWidget::minimumSizeHint().height()};
+    return {wholeWidth_ + 2 * frameWidth(), QTableWidget::minimumSizeHint().height()};
+}
+
+void ResultGrid::Remeasure() {
+    wholeWidth_ = Columns_WholeWidth(this, kTwips);
+    updateGeometry();
 }
 
 QTableWidgetItem* ResultGrid::Cell(int row, int col) {
@@ -58,7 +63,7 @@ void ResultGrid::Clear() {
 void ResultGrid::Disp_Units() {
     const auto rows = Result_Texts(0);
     for (int r = 0; r < 7; ++r) Cell(r, 1)->setText(Cp1252_ToQString(rows[r].unit));
-    updateGeometry();
+    Remeasure();
 }
 
 void ResultGrid::Disp_Result(int16_t motorSelected) {
@@ -77,5 +82,5 @@ void ResultGrid::Disp_Result(int16_t motorSelected) {
         }
     }
     setUpdatesEnabled(true);
-    updateGeometry();
+    Remeasure();
 }

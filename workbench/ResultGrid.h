@@ -22,4 +22,8 @@ public:
 
 private:
     QTableWidgetItem* Cell(int row, int col);
+    // Measures the width the texts need anew, once they are all in.
+    void Remeasure();
+
+    int wholeWidth_ = 0;
 };
