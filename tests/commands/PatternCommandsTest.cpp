@@ -52,6 +52,14 @@ protected:
         for (int r = 1; r <= n; ++r) Patarn[r] = Distinct(r);
     }
 
+    // The one message shown: a refusal of the pattern grid.
+    void ExpectRefusal(const std::string& text) const {
+        ASSERT_EQ(msg.Seen().size(), 1u);
+        EXPECT_EQ(msg.Seen()[0].text, text);
+        EXPECT_EQ(msg.Seen()[0].title, "Operating Pattern");
+        EXPECT_EQ(msg.Seen()[0].icon, MsgIcon::Exclamation);
+    }
+
     void ExpectNoRefusal() const {
         for (const MsgRequest& m : msg.Seen()) EXPECT_NE(m.text, "Some data cannot be deleted.");
     }
@@ -101,11 +109,9 @@ TEST_F(PatternCommandsTest, AfterEditRefusesATextThatIsNoNumberWithTheMessageAnd
     for (int col = 1; col <= 5; ++col)
         for (const std::string text : {"1-2", "-", ".", "1,5", "--3"}) {
             msg.Clear();
-            EXPECT_EQ(Patarn_AfterEdit(3, col, text, escape), PatternEdit::Refused) << col << " " << text;
-            ASSERT_EQ(msg.Seen().size(), 1u) << col << " " << text;
-            EXPECT_EQ(msg.Seen()[0].text, "Illegal input value.");
-            EXPECT_EQ(msg.Seen()[0].title, "Operating Pattern");
-            EXPECT_EQ(msg.Seen()[0].icon, MsgIcon::Exclamation);
+            SCOPED_TRACE("column " + std::to_string(col) + ", text " + text);
+            EXPECT_EQ(Patarn_AfterEdit(3, col, text, escape), PatternEdit::Refused);
+            ExpectRefusal("Illegal input value.");
         }
     ExpectTable(before);
     EXPECT_EQ(DirtyFlag, 0);
@@ -319,10 +325,7 @@ TEST_F(PatternCommandsTest, DeleteBetweenAPositiveAndANegativeSpeedIsRefused) {
     DirtyFlag = 0;
     const PatarnTable before = Patarn;
     EXPECT_FALSE(Patarn_DeleteRows(3, 3));  // record 2, between 100 and -100
-    ASSERT_EQ(msg.Seen().size(), 1u);
-    EXPECT_EQ(msg.Seen()[0].text, "Some data cannot be deleted.");
-    EXPECT_EQ(msg.Seen()[0].title, "Operating Pattern");
-    EXPECT_EQ(msg.Seen()[0].icon, MsgIcon::Exclamation);
+    ExpectRefusal("Some data cannot be deleted.");
     ExpectTable(before);
     EXPECT_EQ(PatternRowCount, 4);
     EXPECT_EQ(DirtyFlag, 0);

@@ -43,13 +43,12 @@ protected:
 
     static QString Q(const std::string& path) { return QString::fromStdString(path); }
 
-    // Opens the example through File > Open.
-    void OpenExample(frmMain& w) {
+    // Runs a command of the menus and answers its file dialog with name.
+    static FileDialogSeen Answer(frmMain& w, const char* command, const QString& name, bool list = false) {
         FileDialogSeen seen;
-        FileDialog_AnswerNext(kExample, seen);
-        w.Action("mnuFileOpen")->trigger();
-        ASSERT_TRUE(seen.shown);
-        ASSERT_EQ(FileName, Examples() + "/" + kExample);
+        FileDialog_AnswerNext(name, seen, list);
+        w.Action(command)->trigger();
+        return seen;
     }
 
     TempDir home;
@@ -65,9 +64,7 @@ private:
 TEST_F(frmMainDialogsTest, TheFirstOpenStartsAmongTheExamplesAndOpensOne) {
     frmMain w;
     w.show();
-    FileDialogSeen seen;
-    FileDialog_AnswerNext(kExample, seen);
-    w.Action("mnuFileOpen")->trigger();
+    const FileDialogSeen seen = Answer(w, "mnuFileOpen", kExample);
     ASSERT_TRUE(seen.shown);
     EXPECT_EQ(seen.title, "Open");
     EXPECT_EQ(seen.folder, Q(Examples()));
@@ -79,12 +76,8 @@ TEST_F(frmMainDialogsTest, TheFirstOpenStartsAmongTheExamplesAndOpensOne) {
 
 TEST_F(frmMainDialogsTest, SaveAsOfANewDocumentStartsInTheDocumentsFolderAndAddsTheSuffix) {
     frmMain w;
-    StartWith(w, 1);
-    Type(w, 2, 1, "0.1");
-    Type(w, 2, 3, "3000");
-    FileDialogSeen seen;
-    FileDialog_AnswerNext("lift", seen);
-    w.Action("mnuFileSaveAs")->trigger();
+    StartOneRow(w);
+    const FileDialogSeen seen = Answer(w, "mnuFileSaveAs", "lift");
     ASSERT_TRUE(seen.shown);
     EXPECT_EQ(seen.title, "Save As");
     EXPECT_EQ(seen.folder, Q(Documents()));
@@ -99,14 +92,8 @@ TEST_F(frmMainDialogsTest, SaveAsOfANewDocumentStartsInTheDocumentsFolderAndAdds
 TEST_F(frmMainDialogsTest, OpenAfterSaveAsStartsInTheDocumentsFolderAndListsTheDocument) {
     frmMain w;
     StartWith(w, 1);
-    FileDialogSeen saved;
-    FileDialog_AnswerNext("lift", saved);
-    w.Action("mnuFileSaveAs")->trigger();
-    ASSERT_TRUE(saved.shown);
-
-    FileDialogSeen opened;
-    FileDialog_AnswerNext("", opened, true);
-    w.Action("mnuFileOpen")->trigger();
+    ASSERT_TRUE(Answer(w, "mnuFileSaveAs", "lift").shown);
+    const FileDialogSeen opened = Answer(w, "mnuFileOpen", "", true);
     ASSERT_TRUE(opened.shown);
     EXPECT_EQ(opened.folder, Q(Documents()));
     EXPECT_EQ(opened.listed, QStringList{"lift.AP2"});
@@ -116,22 +103,15 @@ TEST_F(frmMainDialogsTest, OpenAfterSaveAsStartsInTheDocumentsFolderAndListsTheD
 TEST_F(frmMainDialogsTest, AFullNameTypedIntoSaveAsKeepsItsOwnSuffix) {
     frmMain w;
     StartWith(w, 1);
-    FileDialogSeen seen;
-    FileDialog_AnswerNext("lift.v2", seen);
-    w.Action("mnuFileSaveAs")->trigger();
-    ASSERT_TRUE(seen.shown);
+    ASSERT_TRUE(Answer(w, "mnuFileSaveAs", "lift.v2").shown);
     EXPECT_TRUE(fs::is_regular_file(Documents() + "/lift.v2"));
     EXPECT_FALSE(fs::exists(Documents() + "/lift.v2.AP2"));
 }
 
 TEST_F(frmMainDialogsTest, SaveResultsHasItsOwnTitleAndStartsInTheDocumentsFolder) {
     frmMain w;
-    StartWith(w, 1);
-    Type(w, 2, 1, "0.1");
-    Type(w, 2, 3, "3000");
-    FileDialogSeen seen;
-    FileDialog_AnswerNext("results", seen);
-    w.Action("mnuCulcurate")->trigger();
+    StartOneRow(w);
+    const FileDialogSeen seen = Answer(w, "mnuCulcurate", "results");
     ASSERT_TRUE(seen.shown);
     EXPECT_EQ(seen.title, "Save Calculation Results");
     EXPECT_EQ(seen.folder, Q(Documents()));
@@ -144,11 +124,10 @@ TEST_F(frmMainDialogsTest, SaveResultsHasItsOwnTitleAndStartsInTheDocumentsFolde
 TEST_F(frmMainDialogsTest, WithADocumentEveryDialogStartsInItsFolder) {
     frmMain w;
     w.show();
-    OpenExample(w);
+    ASSERT_TRUE(Answer(w, "mnuFileOpen", kExample).shown);
+    ASSERT_EQ(FileName, Examples() + "/" + kExample);
     for (const char* command : {"mnuCulcurate", "mnuFileSaveAs", "mnuFileOpen"}) {
-        FileDialogSeen seen;
-        FileDialog_AnswerNext("", seen);
-        w.Action(command)->trigger();
+        const FileDialogSeen seen = Answer(w, command, "");
         ASSERT_TRUE(seen.shown) << command;
         EXPECT_EQ(seen.folder, Q(Examples())) << command;
     }
@@ -159,9 +138,7 @@ TEST_F(frmMainDialogsTest, WithoutExamplesNorADocumentsFolderOpenStartsAtHomeNot
     fs::remove_all(Documents());
     frmMain w;
     w.show();
-    FileDialogSeen seen;
-    FileDialog_AnswerNext("", seen);
-    w.Action("mnuFileOpen")->trigger();
+    const FileDialogSeen seen = Answer(w, "mnuFileOpen", "");
     ASSERT_TRUE(seen.shown);
     EXPECT_EQ(seen.folder, Q(home.Path()));
     EXPECT_NE(seen.folder, QApplication::applicationDirPath());

@@ -75,9 +75,7 @@ TEST_F(WorkbenchTest, IllegalTimeIsRefusedWithTheMessage) {
 
 TEST_F(WorkbenchTest, ATextThatIsNoNumberIsRefusedAndTheCellShowsItsStoredValueAgain) {
     frmMain w;
-    StartWith(w, 1);
-    Type(w, 2, 1, "0.1");
-    Type(w, 2, 3, "3000");
+    StartOneRow(w);
     DirtyFlag = 0;
     const PatarnTable before = Patarn;
     Type(w, 2, 3, "1-2");
