@@ -12,6 +12,5 @@ bool Results_Command(const std::function<bool(std::string& fileName)>& askFileNa
     }
     std::string fileName;
     if (!askFileName(fileName)) return false;
-    Results_Save(fileName);
-    return true;
+    return Results_Save(fileName);
 }

@@ -9,5 +9,6 @@
 // dialog. Otherwise askFileName is asked for the file name (false when the
 // user cancelled: nothing is written and nothing shown) and the results file
 // is written under that name as given, with no extension appended. True
-// when the file was written; the writing itself tells no failure.
+// when the file was written whole; the writing itself tells no failure (it
+// goes to History.log).
 bool Results_Command(const std::function<bool(std::string& fileName)>& askFileName);

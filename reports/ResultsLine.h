@@ -18,7 +18,8 @@ inline constexpr int16_t kErrPathAccess = 75;     // the report could not be ope
 
 // Opens the report for output: created, or emptied when it exists.
 void Results_Open(const std::string& fileName);
-void Results_Close();
+// Closes the file: true when every statement since the open succeeded.
+bool Results_Close();
 
 // One statement: the number of blanks, the text (single-byte code page), and
 // CR LF when the line ends.

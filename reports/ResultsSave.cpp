@@ -9,7 +9,7 @@ constexpr int16_t kFirstSpecialType = 41;
 
 }  // namespace
 
-void Results_Save(const std::string& fileName) {
+bool Results_Save(const std::string& fileName) {
     Results_Open(fileName);
     Results_Print(2, "Motor Name   ", false);
     Results_Print(0, ":", false);
@@ -18,5 +18,5 @@ void Results_Save(const std::string& fileName) {
     if (Element[1].ElementType < kFirstSpecialType) Results_Inertia();
     Results_Torque();
     Results_Interval();
-    Results_Close();
+    return Results_Close();
 }

@@ -10,8 +10,9 @@
 
 // --- the file whole (reports/ResultsSave.cpp) -------------------------------------
 
-// Opens the file (created or emptied), writes all sections in order, closes it.
-void Results_Save(const std::string& fileName);
+// Opens the file (created or emptied), writes all sections in order, closes
+// it. True when the file was written whole; the user is told nothing either way.
+bool Results_Save(const std::string& fileName);
 
 // --- the components (reports/ResultsElement.cpp) ------------------------------------
 

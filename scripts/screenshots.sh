@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Renders the windows under a virtual display to PNG files:
 #   scripts/screenshots.sh [BUILD_DIR] [OUT_DIR]
-# main.png: the main window with the sized horizontal ballscrew example;
+# main.png: the main window with the example examples/horizontal-ballscrew.AP2;
 # meca.png: the mechanical system question of a start without a file;
 # list1.png, list2.png: the two pages of the selection wizard over a pushing
 # ballscrew whose judgement shows OK, FAIR and NG.
@@ -15,14 +15,21 @@ out="$(realpath -m "${2:-screenshots}")"
 mkdir -p "$out"
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
-cp tests/data/horizontal-ballscrew.AP2 tests/data/ballscrew-pushing-600N.AP2 "$work/"
+cp examples/horizontal-ballscrew.AP2 tests/data/ballscrew-pushing-600N.AP2 "$work/"
 
 shoot() {  # shoot PNG [FILE]: starts the program with a fresh settings folder
     HOME="$work/home-$1" xvfb-run -a -s "-screen 0 1400x950x24" bash -c \
         "\"$build/torvane\" $2 & sleep 4; import -window root \"$out/$1\"; kill %1" 2>/dev/null
     echo "$out/$1"
 }
-shoot main.png "\"$work/horizontal-ballscrew.AP2\""
+# The main window with the component settings moved beside it, as the
+# README shows it.
+HOME="$work/home-main" xvfb-run -a -s "-screen 0 1600x760x24" bash -c "
+    \"$build/torvane\" \"$work/horizontal-ballscrew.AP2\" & sleep 4
+    xdotool search --name '^Component Settings\$' windowmove 1125 60; sleep 1
+    import -window root \"$out/main.png\"
+    kill %1" 2>/dev/null
+echo "$out/main.png"
 shoot meca.png ""
 
 # The wizard driven by keys: Tools > Motor Selection, the first series,

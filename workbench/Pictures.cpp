@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 #include "core/Catalogue.h"
@@ -9,15 +10,23 @@
 
 namespace {
 
+// A drawing rendered once per file and size: every refresh of the strip
+// shows its pictures again, and rendering them each time costs more than
+// the rest of the refresh.
 QPixmap Render(const QString& path, QSize size) {
+    const QString key = QString("torvane:%1@%2x%3").arg(path).arg(size.width()).arg(size.height());
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap)) return pixmap;
     if (!QFile::exists(path)) return {};
     QSvgRenderer renderer(path);
     if (!renderer.isValid()) return {};
-    QPixmap pixmap(size);
+    pixmap = QPixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     renderer.render(&painter);
+    painter.end();
+    QPixmapCache::insert(key, pixmap);
     return pixmap;
 }
 

@@ -1,5 +1,7 @@
 #include "app/cli/ResultsCli.h"
 
+#include <iostream>
+
 #include "core/Startup.h"
 #include "persist/mdlFile.h"
 #include "commands/ResultsCommand.h"
@@ -14,9 +16,11 @@ int ResultsCli::Run() const {
     if (!results_->parsed()) return -1;
     Main_Prepare("");
     if (!File_Load(file_)) return 1;
-    const bool written = Results_Command([this](std::string& fileName) {
+    bool asked = false;
+    const bool written = Results_Command([this, &asked](std::string& fileName) {
         fileName = out_;
-        return true;
+        return asked = true;
     });
+    if (!written && asked) std::cerr << "torvane-cli: the results file could not be written: " << out_ << '\n';
     return written ? 0 : 1;
 }

@@ -4,7 +4,9 @@
 #include <CLI/CLI.hpp>
 
 #include <iostream>
+#include <string>
 
+#include "app/cli/CatalogueCli.h"
 #include "app/cli/ChainPrint.h"
 #include "app/cli/Json.h"
 #include "app/cli/ReportCli.h"
@@ -12,6 +14,7 @@
 #include "app/cli/SelectionCli.h"
 #include "app/cli/SizeCli.h"
 #include "base/MsgBox.h"
+#include "base/Version.h"
 #include "base/RuntimeError.h"
 #include "commands/Activation.h"
 #include "core/Startup.h"
@@ -46,6 +49,7 @@ int main(int argc, char** argv) {
     MsgBox_SetHandler(MsgBox_ConsoleHandler);
     CLI::App app{"Torvane command line tool: servo drive sizing without windows"};
     app.require_subcommand(1);
+    app.set_version_flag("--version", std::string("torvane-cli ") + kVersionText, "print the version and exit");
 
     int number = 0;
     bool json = false;
@@ -58,6 +62,7 @@ int main(int argc, char** argv) {
     ResultsCli results(app);
     ReportCli report(app);
     SizeCli size(app);
+    CatalogueCli catalogue(app);
 
     try {
         app.parse(argc, argv);
@@ -65,15 +70,25 @@ int main(int argc, char** argv) {
         const int code = app.exit(e);
         return e.get_exit_code() == 0 ? code : 2;
     }
-    try {
+    const auto run = [&] {
         if (templ->parsed()) return RunTemplate(number, json);
         if (const int code = selection.Run(); code >= 0) return code;
         if (const int code = results.Run(); code >= 0) return code;
         if (const int code = report.Run(); code >= 0) return code;
         if (const int code = size.Run(); code >= 0) return code;
+        if (const int code = catalogue.Run(); code >= 0) return code;
+        return 2;
+    };
+    int code = 2;
+    try {
+        code = run();
     } catch (const RuntimeError& e) {
         std::cerr << "torvane-cli: " << e.what() << '\n';
+        code = 1;
+    }
+    if (!std::cout.flush()) {
+        std::cerr << "torvane-cli: the output could not be written\n";
         return 1;
     }
-    return 2;
+    return code;
 }

@@ -41,3 +41,26 @@ TEST_F(ResultsCommandTest, TheNameIsTakenAsGivenWithoutExtension) {
     EXPECT_FALSE(std::filesystem::exists(name + ".TXT"));
     EXPECT_TRUE(msg.Seen().empty());
 }
+
+TEST_F(ResultsCommandTest, AFileThatCannotBeWrittenIsFalseLoggedAndToldNothing) {
+    Chain({1});
+    Culcurate_All();
+    InstallParamIni();
+    EXPECT_FALSE(Results_Command([this](std::string& fileName) {
+        fileName = appDir.File("no-such-folder/results.TXT");
+        return true;
+    }));
+    EXPECT_TRUE(msg.Seen().empty());
+    EXPECT_FALSE(ReadFile(appDir.File("History.log")).empty());
+}
+
+TEST_F(ResultsCommandTest, AFullDiskIsFalse) {
+    Chain({1});
+    Culcurate_All();
+    InstallParamIni();
+    EXPECT_FALSE(Results_Command([](std::string& fileName) {
+        fileName = "/dev/full";
+        return true;
+    }));
+    EXPECT_TRUE(msg.Seen().empty());
+}

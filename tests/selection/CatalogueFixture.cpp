@@ -1,23 +1,20 @@
 #include "tests/selection/CatalogueFixture.h"
 
-#include <sqlite3.h>
-
 #include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 
+#include "selection/CatalogueBuild.h"
 #include "selection/mdlDataBase.h"
 
 void Catalogue_Build(const std::string& folder, const std::string& rows) {
-    const std::string sql = ReadFile(std::string(TORVANE_SOURCE_DIR) + "/data/catalogue/10_schema.sql") + rows;
-    sqlite3* db = nullptr;
-    char* error = nullptr;
-    const bool ok = sqlite3_open((folder + "/Series.db").c_str(), &db) == SQLITE_OK &&
-                    sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &error) == SQLITE_OK;
-    const std::string what = error ? error : "cannot build the catalogue";
-    sqlite3_free(error);
-    sqlite3_close(db);
-    if (!ok) throw std::runtime_error(what);
+    const std::string rowsFile = folder + "/rows.sql";
+    WriteFile(rowsFile, rows);
+    std::string error;
+    const bool ok = Catalogue_Build(folder + "/Series.db",
+                                    {std::string(TORVANE_SOURCE_DIR) + "/data/catalogue/10_schema.sql", rowsFile}, error);
+    std::filesystem::remove(rowsFile);
+    if (!ok) throw std::runtime_error(error);
 }
 
 std::string Catalogue_Bundled() {

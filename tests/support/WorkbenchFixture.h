@@ -20,6 +20,7 @@
 #include "pattern/ui/PatarnGrid.h"
 #include "tests/support/Controls.h"
 #include "tests/support/TestState.h"
+#include "tests/support/Typing.h"
 #include "common/ui/FileDialog.h"
 #include "workbench/frmItem.h"
 #include "workbench/frmMain.h"
@@ -86,16 +87,7 @@ protected:
 
     // Types a text into a cell of the pattern grid and commits it with Enter.
     static void Type(frmMain& w, int gridRow, int col, const QString& text) {
-        auto* g = Ctl<PatarnGrid>(&w, "vsfPatarn");
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // the previous editor goes
-        g->setCurrentCell(gridRow - 2, col);
-        g->editItem(g->item(gridRow - 2, col));
-        auto* edit = qobject_cast<QLineEdit*>(g->indexWidget(g->currentIndex()));
-        ASSERT_NE(edit, nullptr);
-        edit->selectAll();
-        QTest::keyClicks(edit, text);
-        QTest::keyClick(edit, Qt::Key_Return);
-        QApplication::processEvents();
+        ASSERT_TRUE(Type_PatternCell(w, gridRow, col, text)) << "no editor on row " << gridRow << " column " << col;
     }
 
     // A drag from another window enters a slot of the strip and is dropped there.

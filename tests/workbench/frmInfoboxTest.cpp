@@ -22,12 +22,7 @@ protected:
     static QTableWidget* Grid(const frmInfobox* box) { return Ctl<QTableWidget>(box, "vsfElement"); }
 
     // Opens the editor of a setting; none when the row refuses it.
-    static QWidget* OpenEditor(frmInfobox* box, int gridRow) {
-        QTableWidget* g = Grid(box);
-        g->setCurrentCell(gridRow - 1, 2);
-        g->editItem(g->item(gridRow - 1, 2));
-        return g->indexWidget(g->currentIndex());
-    }
+    static QWidget* OpenEditor(frmInfobox* box, int gridRow) { return Setting_OpenEditor(box, gridRow); }
 
     // A cylinder load behind the motor, picked in the settings; the document counts as unchanged.
     static frmInfobox* StartWithACylinder(frmMain& w) {
@@ -39,16 +34,7 @@ protected:
 
     // Opens the editor of a setting, types the text and commits it with Enter.
     static void Type(frmInfobox* box, int gridRow, const QString& text) {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QWidget* editor = OpenEditor(box, gridRow);
-        ASSERT_NE(editor, nullptr) << "row " << gridRow << " did not open";
-        auto* edit = qobject_cast<QLineEdit*>(editor);
-        if (auto* combo = qobject_cast<QComboBox*>(editor)) edit = combo->lineEdit();
-        ASSERT_NE(edit, nullptr);
-        edit->selectAll();
-        QTest::keyClicks(edit, text);
-        QTest::keyClick(edit, Qt::Key_Return);
-        QApplication::processEvents();
+        ASSERT_TRUE(Type_Setting(box, gridRow, text)) << "row " << gridRow << " did not open";
     }
 };
 
