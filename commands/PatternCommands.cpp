@@ -17,6 +17,9 @@ void Store(PatarnTable& table, int16_t i, int col, double value) {
     Patarn_SetField(table, i, u.kind, u.unit, value, static_cast<int16_t>(col - 1));
 }
 
+// The columns whose text is stored: the row numbers and the torque are not.
+bool StoresText(int col) { return col >= 1 && col <= 5; }
+
 }  // namespace
 
 void Patarn_StoreCell(PatarnTable& table, int gridRow, int col, double value) {
@@ -63,16 +66,21 @@ void Patarn_Recalculate() {
     Culcurate_All();
 }
 
-bool Patarn_AfterEdit(int gridRow, int col, const std::string& text, int16_t& escapePending) {
-    if (text.empty()) return false;
+PatternEdit Patarn_AfterEdit(int gridRow, int col, const std::string& text, int16_t& escapePending) {
+    if (text.empty()) return PatternEdit::Skipped;
     if (escapePending == 1) {
         escapePending = 0;
-        return false;
+        return PatternEdit::Skipped;
+    }
+    const bool storing = gridRow >= 2 && gridRow <= kPatarnRows + 1;
+    if (storing && StoresText(col) && !IsNumeric(text)) {
+        MsgBox("Illegal input value.", "Operating Pattern", MsgIcon::Exclamation);
+        return PatternEdit::Refused;
     }
     DirtyFlag = 1;
     Patarn_StoreCell(Patarn, gridRow, col, Val(text));
     Patarn_Recalculate();
-    return true;
+    return PatternEdit::Stored;
 }
 
 bool Patarn_DeleteRows(int low, int high) {

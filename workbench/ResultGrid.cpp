@@ -1,7 +1,6 @@
 #include "workbench/ResultGrid.h"
 
 #include <QHeaderView>
-#include <numeric>
 #include <vector>
 
 #include "common/ui/ColumnFit.h"
@@ -10,13 +9,14 @@
 
 namespace {
 
+const std::vector<int> kTwips = {2100, 1100, 1400, 1100, 1100};
+
 }  // namespace
 
 ResultGrid::ResultGrid(QWidget* parent) : QTableWidget(7, 5, parent) {
     setObjectName("vsfMotor");
     setHorizontalHeaderLabels({"Item", "Units", "Calculated value", "Rating", "Rated ratio"});
-    const std::vector<int> twips = {2100, 1100, 1400, 1100, 1100};
-    new ColumnFit(this, twips);
+    new ColumnFit(this, kTwips);
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
     verticalHeader()->hide();
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -26,10 +26,18 @@ ResultGrid::ResultGrid(QWidget* parent) : QTableWidget(7, 5, parent) {
     // All seven rows and every column always show: the grid never scrolls.
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setMinimumWidth(std::accumulate(twips.begin(), twips.end(), 0) / 15 + 2 * frameWidth());
     setMinimumHeight(horizontalHeader()->sizeHint().height() + 7 * verticalHeader()->defaultSectionSize() +
                      2 * frameWidth());
     Clear();
+}
+
+QSize ResultGrid::minimumSizeHint() const {
+    return {wholeWidth_ + 2 * frameWidth(), QTableWidget::minimumSizeHint().height()};
+}
+
+void ResultGrid::Remeasure() {
+    wholeWidth_ = Columns_WholeWidth(this, kTwips);
+    updateGeometry();
 }
 
 QTableWidgetItem* ResultGrid::Cell(int row, int col) {
@@ -55,6 +63,7 @@ void ResultGrid::Clear() {
 void ResultGrid::Disp_Units() {
     const auto rows = Result_Texts(0);
     for (int r = 0; r < 7; ++r) Cell(r, 1)->setText(Cp1252_ToQString(rows[r].unit));
+    Remeasure();
 }
 
 void ResultGrid::Disp_Result(int16_t motorSelected) {
@@ -73,4 +82,5 @@ void ResultGrid::Disp_Result(int16_t motorSelected) {
         }
     }
     setUpdatesEnabled(true);
+    Remeasure();
 }

@@ -16,6 +16,14 @@ public:
     // Empties the scrollable part.
     void Clear();
 
+    // The grid never scrolls: it asks for the width its texts need, and at
+    // least the width of its layout.
+    QSize minimumSizeHint() const override;
+
 private:
     QTableWidgetItem* Cell(int row, int col);
+    // Measures the width the texts need anew, once they are all in.
+    void Remeasure();
+
+    int wholeWidth_ = 0;
 };

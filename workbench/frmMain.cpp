@@ -304,10 +304,11 @@ void frmMain::mnuDelete1_Click() {
 
 void frmMain::vsfPatarn_AfterEdit(int row, int col) {
     const std::string text = vsfPatarn->CellText(vsfPatarn->GridRow(), vsfPatarn->GridCol());
-    bool stored = true;  // a failed recalculation comes after the store
-    Run_Guarded("Operating Pattern", [&] { stored = Patarn_AfterEdit(row, col, text, vsfPatarn->EscapePending); });
-    if (!stored) return;
-    Disp_PatternAndResults();
+    auto edit = PatternEdit::Stored;  // a failed recalculation comes after the store
+    Run_Guarded("Operating Pattern", [&] { edit = Patarn_AfterEdit(row, col, text, vsfPatarn->EscapePending); });
+    if (edit == PatternEdit::Skipped) return;
+    if (edit == PatternEdit::Refused) vsfPatarn->Disp_Patarn();  // the cell shows its stored value again
+    else Disp_PatternAndResults();
     vsfPatarn->setFocus();
 }
 

@@ -16,7 +16,9 @@
 namespace {
 
 const QString kDocumentFilter = "Motor Selection Data(*.AP2)";
+const QString kDocumentSuffix = "AP2";  // so that the Open dialog lists what was saved
 const QString kResultsFilter = "(*.TXT)";
+const QString kResultsTitle = "Save Calculation Results";
 const QString kPdfFilter = "PDF files (*.pdf)";
 const QString kPointTableFilter = "Point table (*.csv)";
 
@@ -36,7 +38,7 @@ FileLoadHooks frmMain::LoadHooks() {
 
 void frmMain::mnuFileOpen_Click() {
     if (!ConfirmLeave()) return;
-    const QString path = FileDialog_Open(this, kDocumentFilter);
+    const QString path = FileDialog_Open(this, kDocumentFilter, DialogFor::OpenApplication);
     if (path.isEmpty()) return;
     File_Load(path.toStdString(), LoadHooks());  // the file's name becomes the document's
     imgElement_Click(1);
@@ -49,7 +51,7 @@ bool frmMain::mnuFileSave_Click() {
 }
 
 bool frmMain::mnuFileSaveAs_Click() {
-    const QString path = FileDialog_Save(this, kDocumentFilter);
+    const QString path = FileDialog_Save(this, kDocumentFilter, "Save As", kDocumentSuffix);
     if (path.isEmpty()) return false;
     const std::string caption = Document_SaveAs(path.toStdString());
     if (caption.empty()) return false;
@@ -58,7 +60,8 @@ bool frmMain::mnuFileSaveAs_Click() {
 }
 
 bool frmMain::AskResultsFile(std::string& fileName) {
-    fileName = FileDialog_Save(this, kResultsFilter).toStdString();
+    // The results file is written under the name as given: no suffix is added.
+    fileName = FileDialog_Save(this, kResultsFilter, kResultsTitle).toStdString();
     return !fileName.empty();
 }
 

@@ -1,6 +1,8 @@
 #include "common/ui/FileDialog.h"
 
+#include <QDir>
 #include <QFileDialog>
+#include <QStandardPaths>
 
 namespace {
 
@@ -21,18 +23,35 @@ bool Scripted(QString& answer) {
     return true;
 }
 
-}  // namespace
-
-QString FileDialog_Open(QWidget* parent, const QString& filter) {
-    QString answer;
-    if (Scripted(answer)) return answer;
-    return QFileDialog::getOpenFileName(parent, "Open", QString(), filter);
+QString StartFolder(DialogFor purpose) {
+    const DialogFolderHints hints =
+        DialogFolder_Hints(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString(),
+                           QDir::homePath().toStdString());
+    return QString::fromStdString(Dialog_StartFolder(hints, purpose));
 }
 
-QString FileDialog_Save(QWidget* parent, const QString& filter) {
+QString Chosen(QFileDialog& dialog) {
+    if (dialog.exec() != QDialog::Accepted) return {};
+    return dialog.selectedFiles().value(0);
+}
+
+}  // namespace
+
+QString FileDialog_Open(QWidget* parent, const QString& filter, DialogFor purpose) {
     QString answer;
     if (Scripted(answer)) return answer;
-    return QFileDialog::getSaveFileName(parent, "Save As", QString(), filter);
+    QFileDialog dialog(parent, "Open", StartFolder(purpose), filter);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return Chosen(dialog);
+}
+
+QString FileDialog_Save(QWidget* parent, const QString& filter, const QString& title, const QString& defaultSuffix) {
+    QString answer;
+    if (Scripted(answer)) return answer;
+    QFileDialog dialog(parent, title, StartFolder(DialogFor::OtherFile), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(defaultSuffix);
+    return Chosen(dialog);
 }
 
 void FileDialog_Script(const QStringList& answers) {

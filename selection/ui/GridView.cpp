@@ -77,7 +77,6 @@ void GridView::Show(const Grid& grid) {
         for (int col = 0; col < grid.Cols(); ++col) {
             const GridCell& cell = grid.Cell(row, col);
             auto* item = new QTableWidgetItem(QString::fromStdString(cell.text));
-            item->setToolTip(item->text());  // a long comment shows whole under the pointer
             item->setTextAlignment(Alignment(columns_[col].align));
             QFont font = item->font();
             font.setBold(cell.bold);

@@ -24,7 +24,7 @@ protected:
         const std::string above = gridRow > 2 ? Patarn_CellTexts(Patarn, LoadMotion)[gridRow - 2][col] : "";
         const CellCheck check = Patarn_Validate(gridRow, col, text, above, escape);
         ASSERT_FALSE(check.cancel) << "row " << gridRow << " col " << col << " text " << text;
-        ASSERT_TRUE(Patarn_AfterEdit(gridRow, col, check.text, escape));
+        ASSERT_EQ(Patarn_AfterEdit(gridRow, col, check.text, escape), PatternEdit::Stored);
     }
 
     // A record whose eight fields all differ from those of every other record.
@@ -52,6 +52,14 @@ protected:
         for (int r = 1; r <= n; ++r) Patarn[r] = Distinct(r);
     }
 
+    // The one message shown: a refusal of the pattern grid.
+    void ExpectRefusal(const std::string& text) const {
+        ASSERT_EQ(msg.Seen().size(), 1u);
+        EXPECT_EQ(msg.Seen()[0].text, text);
+        EXPECT_EQ(msg.Seen()[0].title, "Operating Pattern");
+        EXPECT_EQ(msg.Seen()[0].icon, MsgIcon::Exclamation);
+    }
+
     void ExpectNoRefusal() const {
         for (const MsgRequest& m : msg.Seen()) EXPECT_NE(m.text, "Some data cannot be deleted.");
     }
@@ -66,7 +74,7 @@ TEST_F(PatternCommandsTest, AfterEditWithAnEmptyTextStoresNothing) {
     Fill(2);
     PatternRowCount = 2;
     const PatarnTable before = Patarn;
-    EXPECT_FALSE(Patarn_AfterEdit(2, 3, "", escape));
+    EXPECT_EQ(Patarn_AfterEdit(2, 3, "", escape), PatternEdit::Skipped);
     ExpectTable(before);
     EXPECT_EQ(DirtyFlag, 0);
     EXPECT_EQ(PatternRowCount, 2);
@@ -75,7 +83,7 @@ TEST_F(PatternCommandsTest, AfterEditWithAnEmptyTextStoresNothing) {
 
 TEST_F(PatternCommandsTest, AfterEditWithAnEmptyTextLeavesAPendingEscapePending) {
     escape = 1;
-    EXPECT_FALSE(Patarn_AfterEdit(2, 3, "", escape));
+    EXPECT_EQ(Patarn_AfterEdit(2, 3, "", escape), PatternEdit::Skipped);
     EXPECT_EQ(escape, 1);
     EXPECT_EQ(DirtyFlag, 0);
 }
@@ -84,31 +92,65 @@ TEST_F(PatternCommandsTest, AfterEditClearsAPendingEscapeAndStoresNothing) {
     Place({11});
     const PatarnTable before = Patarn;
     escape = 1;
-    EXPECT_FALSE(Patarn_AfterEdit(2, 3, "100.0", escape));
+    EXPECT_EQ(Patarn_AfterEdit(2, 3, "100.0", escape), PatternEdit::Skipped);
     EXPECT_EQ(escape, 0);
     ExpectTable(before);
     EXPECT_EQ(DirtyFlag, 0);
     // The next edit is stored again.
-    EXPECT_TRUE(Patarn_AfterEdit(2, 3, "100.0", escape));
+    EXPECT_EQ(Patarn_AfterEdit(2, 3, "100.0", escape), PatternEdit::Stored);
     EXPECT_DOUBLE_EQ(Patarn[1].Speed, 100);
+}
+
+TEST_F(PatternCommandsTest, AfterEditRefusesATextThatIsNoNumberWithTheMessageAndStoresNothing) {
+    Place({11});
+    Fill(2);
+    PatternRowCount = 2;
+    const PatarnTable before = Patarn;
+    for (int col = 1; col <= 5; ++col)
+        for (const std::string text : {"1-2", "-", ".", "1,5", "--3"}) {
+            msg.Clear();
+            SCOPED_TRACE("column " + std::to_string(col) + ", text " + text);
+            EXPECT_EQ(Patarn_AfterEdit(3, col, text, escape), PatternEdit::Refused);
+            ExpectRefusal("Illegal input value.");
+        }
+    ExpectTable(before);
+    EXPECT_EQ(DirtyFlag, 0);
+    EXPECT_EQ(PatternRowCount, 2);
+}
+
+TEST_F(PatternCommandsTest, AfterEditWithoutACellToStoreTakesAnyTextAndRecalculates) {
+    Place({11});
+    Row(Patarn, 1, 0.5, 1000);
+    PatternRowCount = 0;
+    // What the current cell shows after a delete may be no number at all.
+    EXPECT_EQ(Patarn_AfterEdit(0, 0, "OVER", escape), PatternEdit::Stored);
+    EXPECT_EQ(PatternRowCount, 1);
+    EXPECT_TRUE(msg.Seen().empty());
+}
+
+TEST_F(PatternCommandsTest, AnEscapePendingWinsOverAnIllegalText) {
+    escape = 1;
+    EXPECT_EQ(Patarn_AfterEdit(2, 3, "1-2", escape), PatternEdit::Skipped);
+    EXPECT_EQ(escape, 0);
+    EXPECT_TRUE(msg.Seen().empty());
 }
 
 TEST_F(PatternCommandsTest, AfterEditOfATimeStoresTimeAndIntervalThroughThePickedUnit) {
     Place({11});
     UnitTable[0].Sel = 0;  // ms
     PatternRowCount = 7;   // stale: recounted by the edit
-    EXPECT_TRUE(Patarn_AfterEdit(2, 1, "1500.000", escape));
+    EXPECT_EQ(Patarn_AfterEdit(2, 1, "1500.000", escape), PatternEdit::Stored);
     EXPECT_DOUBLE_EQ(Patarn[1].Time, 1.5);
     EXPECT_DOUBLE_EQ(Patarn[1].DeltaTime, 1.5);
     EXPECT_EQ(Patarn[1].RowState, 1);
     EXPECT_EQ(DirtyFlag, 1);
     EXPECT_EQ(PatternRowCount, 0);  // time but no speed yet
 
-    EXPECT_TRUE(Patarn_AfterEdit(2, 3, "3000.0", escape));
+    EXPECT_EQ(Patarn_AfterEdit(2, 3, "3000.0", escape), PatternEdit::Stored);
     EXPECT_EQ(Patarn[1].RowState, 3);
     EXPECT_EQ(PatternRowCount, 1);
 
-    EXPECT_TRUE(Patarn_AfterEdit(3, 1, "2500.000", escape));
+    EXPECT_EQ(Patarn_AfterEdit(3, 1, "2500.000", escape), PatternEdit::Stored);
     EXPECT_DOUBLE_EQ(Patarn[2].Time, 2.5);
     EXPECT_DOUBLE_EQ(Patarn[2].DeltaTime, 1.0);  // minus the time of the row above
     EXPECT_EQ(Patarn[2].RowState, 1);
@@ -119,7 +161,7 @@ TEST_F(PatternCommandsTest, AfterEditOfATimeStoresTimeAndIntervalThroughThePicke
 TEST_F(PatternCommandsTest, AfterEditOfAnIntervalStoresDeltaTime) {
     Place({11});
     UnitTable[0].Sel = 2;  // min
-    EXPECT_TRUE(Patarn_AfterEdit(2, 2, "0.500", escape));
+    EXPECT_EQ(Patarn_AfterEdit(2, 2, "0.500", escape), PatternEdit::Stored);
     EXPECT_DOUBLE_EQ(Patarn[1].DeltaTime, 30);
     EXPECT_DOUBLE_EQ(Patarn[1].Time, 30);  // rebuilt by the recalculation
     EXPECT_EQ(Patarn[1].RowState, 1);
@@ -129,7 +171,7 @@ TEST_F(PatternCommandsTest, AfterEditOfAnIntervalStoresDeltaTime) {
 TEST_F(PatternCommandsTest, AfterEditOfASpeedFillsTheLoadSpeed) {
     Place({11});
     TotalRatio = 0;  // stale until the load inertia is worked out
-    EXPECT_TRUE(Patarn_AfterEdit(2, 3, "3000.0", escape));
+    EXPECT_EQ(Patarn_AfterEdit(2, 3, "3000.0", escape), PatternEdit::Stored);
     EXPECT_DOUBLE_EQ(Patarn[1].Speed, 3000);
     EXPECT_EQ(Patarn[1].RowState, 2);
     EXPECT_DOUBLE_EQ(TotalRatio, kScrewRatio);
@@ -143,7 +185,7 @@ TEST_F(PatternCommandsTest, AfterEditOfALoadSpeedSetsTheMotorSpeedToOneDecimal) 
     P(1, 0) = 0.3;  // reducer
     Culcurate_All();
     ASSERT_EQ(LoadMotion, 1);
-    EXPECT_TRUE(Patarn_AfterEdit(2, 4, "10.00", escape));  // rad/s at the load
+    EXPECT_EQ(Patarn_AfterEdit(2, 4, "10.00", escape), PatternEdit::Stored);  // rad/s at the load
     // 10 / 0.3 rad/s at the motor is 318.47... r/min, kept as 318.5.
     EXPECT_NEAR(Patarn[1].Speed, 318.5, 1e-9);
     EXPECT_EQ(Patarn[1].RowState, 2);
@@ -157,7 +199,7 @@ TEST_F(PatternCommandsTest, AfterEditOfALinearLoadSpeedGoesThroughThePickedUnit)
     Culcurate_All();
     ASSERT_EQ(LoadMotion, 0);
     UnitTable[4].Sel = 3;  // m/min
-    EXPECT_TRUE(Patarn_AfterEdit(2, 4, "3.00", escape));
+    EXPECT_EQ(Patarn_AfterEdit(2, 4, "3.00", escape), PatternEdit::Stored);
     // 0.05 m/s over 10 mm per turn is 300 r/min.
     EXPECT_NEAR(Patarn[1].Speed, 300, 1e-9);
     EXPECT_NEAR(Patarn[1].LoadSpeed, 0.05, 1e-12);
@@ -165,11 +207,11 @@ TEST_F(PatternCommandsTest, AfterEditOfALinearLoadSpeedGoesThroughThePickedUnit)
 
 TEST_F(PatternCommandsTest, AfterEditOfAPositionBehindASpeedRetimesTheRow) {
     Place({11});
-    ASSERT_TRUE(Patarn_AfterEdit(2, 2, "1.000", escape));
-    ASSERT_TRUE(Patarn_AfterEdit(2, 3, "3000.0", escape));
+    ASSERT_EQ(Patarn_AfterEdit(2, 2, "1.000", escape), PatternEdit::Stored);
+    ASSERT_EQ(Patarn_AfterEdit(2, 3, "3000.0", escape), PatternEdit::Stored);
     const double v = Patarn[1].LoadSpeed;
     ASSERT_GT(v, 0);
-    EXPECT_TRUE(Patarn_AfterEdit(2, 5, "10.00", escape));  // mm
+    EXPECT_EQ(Patarn_AfterEdit(2, 5, "10.00", escape), PatternEdit::Stored);  // mm
     // From rest to v over 10 mm.
     EXPECT_DOUBLE_EQ(Patarn[1].DeltaTime, 2 * 0.01 / v);
     EXPECT_DOUBLE_EQ(Patarn[1].Speed, 3000);
@@ -178,9 +220,9 @@ TEST_F(PatternCommandsTest, AfterEditOfAPositionBehindASpeedRetimesTheRow) {
 
 TEST_F(PatternCommandsTest, AfterEditOfAPositionBehindATimeSetsTheSpeed) {
     Place({11});
-    ASSERT_TRUE(Patarn_AfterEdit(2, 2, "1.000", escape));
+    ASSERT_EQ(Patarn_AfterEdit(2, 2, "1.000", escape), PatternEdit::Stored);
     ASSERT_EQ(Patarn[1].RowState, 1);
-    EXPECT_TRUE(Patarn_AfterEdit(2, 5, "10.00", escape));  // mm in 1 s from rest
+    EXPECT_EQ(Patarn_AfterEdit(2, 5, "10.00", escape), PatternEdit::Stored);  // mm in 1 s from rest
     // End speed 0.02 m/s, which is 120 r/min over 10 mm per turn.
     EXPECT_NEAR(Patarn[1].Speed, 120, 1e-9);
     EXPECT_NEAR(Patarn[1].LoadSpeed, 0.02, 1e-12);
@@ -194,7 +236,7 @@ TEST_F(PatternCommandsTest, AfterEditOfRowZeroOrColumnZeroOnlyRecalculates) {
     Row(Patarn, 1, 0.5, 1000);
     Row(Patarn, 2, 0.5, 0);
     PatternRowCount = 0;
-    EXPECT_TRUE(Patarn_AfterEdit(0, 0, "0.500", escape));
+    EXPECT_EQ(Patarn_AfterEdit(0, 0, "0.500", escape), PatternEdit::Stored);
     EXPECT_EQ(PatternRowCount, 2);
     EXPECT_EQ(DirtyFlag, 1);
     EXPECT_DOUBLE_EQ(Patarn[1].Speed, 1000);
@@ -203,7 +245,7 @@ TEST_F(PatternCommandsTest, AfterEditOfRowZeroOrColumnZeroOnlyRecalculates) {
     EXPECT_DOUBLE_EQ(Patarn[1].LoadSpeed, kScrewRatio * FromS(5, 1, 1000));
 
     // Column 0 of a pattern row stores nothing either.
-    EXPECT_TRUE(Patarn_AfterEdit(3, 0, "7", escape));
+    EXPECT_EQ(Patarn_AfterEdit(3, 0, "7", escape), PatternEdit::Stored);
     EXPECT_DOUBLE_EQ(Patarn[2].Speed, 0);
     EXPECT_DOUBLE_EQ(Patarn[2].DeltaTime, 0.5);
     EXPECT_EQ(Patarn[3].RowState, 0);
@@ -283,10 +325,7 @@ TEST_F(PatternCommandsTest, DeleteBetweenAPositiveAndANegativeSpeedIsRefused) {
     DirtyFlag = 0;
     const PatarnTable before = Patarn;
     EXPECT_FALSE(Patarn_DeleteRows(3, 3));  // record 2, between 100 and -100
-    ASSERT_EQ(msg.Seen().size(), 1u);
-    EXPECT_EQ(msg.Seen()[0].text, "Some data cannot be deleted.");
-    EXPECT_EQ(msg.Seen()[0].title, "Operating Pattern");
-    EXPECT_EQ(msg.Seen()[0].icon, MsgIcon::Exclamation);
+    ExpectRefusal("Some data cannot be deleted.");
     ExpectTable(before);
     EXPECT_EQ(PatternRowCount, 4);
     EXPECT_EQ(DirtyFlag, 0);
@@ -434,7 +473,7 @@ TEST_F(PatternCommandsTest, DeleteFollowedByTheRecalculationRecountsTheRows) {
     ASSERT_TRUE(Patarn_DeleteRows(3, 3));
     EXPECT_EQ(PatternRowCount, 1);  // the row deleted was not complete
     // What the window runs next: the after-edit step on row 0, column 0.
-    EXPECT_TRUE(Patarn_AfterEdit(0, 0, "1.000", escape));
+    EXPECT_EQ(Patarn_AfterEdit(0, 0, "1.000", escape), PatternEdit::Stored);
     EXPECT_EQ(PatternRowCount, 2);
     EXPECT_EQ(DirtyFlag, 1);
     EXPECT_DOUBLE_EQ(Patarn[2].Speed, 200);

@@ -63,6 +63,13 @@ protected:
         ASSERT_TRUE(w.ItemWindow()->isVisible());
     }
 
+    // A new horizontal ballscrew with one interval typed: 3000 r/min after 0.1 s.
+    static void StartOneRow(frmMain& w) {
+        StartWith(w, 1);
+        Type(w, 2, 1, "0.1");
+        Type(w, 2, 3, "3000");
+    }
+
     // A double click on a cell of a tab of the palette.
     static void DoubleClick(frmItem* palette, int tab, int cell) {
         Ctl<QTabBar>(palette, "TabStrip1")->setCurrentIndex(tab - 1);

@@ -73,6 +73,31 @@ TEST_F(WorkbenchTest, IllegalTimeIsRefusedWithTheMessage) {
     EXPECT_EQ(Patarn[1].RowState, 0);
 }
 
+TEST_F(WorkbenchTest, ATextThatIsNoNumberIsRefusedAndTheCellShowsItsStoredValueAgain) {
+    frmMain w;
+    StartOneRow(w);
+    DirtyFlag = 0;
+    const PatarnTable before = Patarn;
+    Type(w, 2, 3, "1-2");
+    ASSERT_EQ(msg.Seen().size(), 1u);
+    EXPECT_EQ(msg.Seen()[0].text, "Illegal input value.");
+    EXPECT_EQ(msg.Seen()[0].title, "Operating Pattern");
+    EXPECT_EQ(Cell(w, 2, 3), "3000.0");
+    EXPECT_EQ(Patarn[1].Speed, before[1].Speed);
+    EXPECT_EQ(DirtyFlag, 0);
+    auto* vsfPatarn = Ctl<PatarnGrid>(&w, "vsfPatarn");
+    EXPECT_EQ(vsfPatarn->indexWidget(vsfPatarn->currentIndex()), nullptr);  // the edit is over
+
+    Type(w, 3, 2, "-");  // an empty row stays empty
+    EXPECT_EQ(msg.Seen().size(), 2u);
+    EXPECT_EQ(Cell(w, 3, 2), "");
+    EXPECT_EQ(Patarn[2].RowState, 0);
+
+    Type(w, 2, 3, "2500");  // and the grid takes numbers as before
+    EXPECT_EQ(Cell(w, 2, 3), "2500.0");
+    EXPECT_EQ(msg.Seen().size(), 2u);
+}
+
 TEST_F(WorkbenchTest, SaveResultsWithTheMotorAloneGivesTheMessageAndNoDialog) {
     frmMain w;
     FileDialog_Script({"/nonexistent/never.txt"});
